@@ -1,0 +1,97 @@
+// A host that writes down every read and write of its objects, in order, and needs no database.
+//
+// A test makes a RecordingHost, which becomes the platform of its thread, sets what the objects are to
+// answer, calls the library and compares Events() with the text that the rules ask for.
+#pragma once
+
+#include "support/EventLog.h"
+#include "support/FakeFilter.h"
+#include "support/RecordingConnection.h"
+
+#include "frame/ModPub.h"
+#include "frame/host/Platform.h"
+#include "frame/host/ReportCallArgs.h"
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace kavelin::test {
+
+// What the login, the argument and the objects of the suite answer.
+struct HostAnswers {
+    std::string vosDbName = "account database";
+    std::string accountId = "001";
+    std::string year = "2008";
+    std::string password = "login password";
+    std::string userId = "demo";
+    std::string connectionText = "connection text";
+    std::string systemConnection = "system database";
+
+    std::string sql = "tempdb..result";
+    std::string langId = "zh-CN";
+    std::map<std::string, Value> args;  // Args.Item; empty for a key that isn't here
+
+    bool loginHasAuthService = true;
+    std::map<std::string, std::string> lists;  // of the authorisation service by object; "" for others
+
+    std::map<std::string, std::string> texts;  // GetResString; the key in "<>" for others
+    Value clientNumber = 7;
+    Guid guid = {};
+};
+
+class RecordingHost {
+  public:
+    // Becomes the platform of the calling thread, with all state of the thread forgotten.
+    RecordingHost();
+    ~RecordingHost();
+    RecordingHost(const RecordingHost&) = delete;
+    RecordingHost& operator=(const RecordingHost&) = delete;
+
+    HostAnswers& Answers() { return *objAnswers; }
+    EventLog& Events() { return *objEvents; }
+    ConnectionScript& Script() { return *objScript; }
+    const std::vector<SentStatement>& Sent() const { return objScript->sent; }
+
+    // The fields of the filter that the argument hands over.
+    void SetFilter(const std::vector<FakeField>& fields);
+    const std::shared_ptr<FakeFilter>& Filter() const { return objFilter; }
+
+    // The argument of GETSQL: lines "e.RawFilter", "DataSource.Type = 2", "Args.Item ABC". Late-bound members
+    // of it, of which there is ObjreportManager, write "late e.ObjreportManager".
+    std::shared_ptr<ReportCallArgs> EarlyArgument();
+
+    // The late-bound argument: the same members, every line with "late " before it.
+    std::shared_ptr<LateBound> LateArgument();
+
+    std::shared_ptr<LoginContext> Login();
+
+    // What both arguments hold as ObjreportManager.
+    HostObjectPtr ReportManager() const { return objReportManager; }
+
+    // A row of AccInformation: the answer of GetAccInfoValue.
+    void SetParameter(const std::string& system, const std::string& name, const Value& value,
+                      const Value& byDefault = Value::Null());
+
+    // Puts a connection into ModPub as a frame would, open, and leaves no line behind.
+    std::shared_ptr<RecordingConnection> OpenAccount();
+    std::shared_ptr<RecordingConnection> OpenSystem();
+
+  private:
+    std::shared_ptr<RecordingConnection> OpenConnection();
+
+    std::shared_ptr<EventLog> objEvents = std::make_shared<EventLog>();
+    std::shared_ptr<ConnectionScript> objScript = std::make_shared<ConnectionScript>();
+    std::shared_ptr<HostAnswers> objAnswers = std::make_shared<HostAnswers>();
+    std::shared_ptr<FakeFilter> objFilter;
+    HostObjectPtr objReportManager;
+};
+
+// What a call left in ModPub, for instance "gcnnAccount=open gcnnSystem=nothing gobjLogin=set".
+std::string ConnectionsLeft();
+
+// "nothing", "open" or "closed".
+std::string StateOf(const std::shared_ptr<Connection>& connection);
+
+}  // namespace kavelin::test

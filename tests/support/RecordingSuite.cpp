@@ -1,0 +1,207 @@
+#include "support/RecordingSuite.h"
+
+#include "support/RecordingHost.h"
+
+#include "frame/Errors.h"
+
+namespace kavelin::test {
+
+namespace {
+
+class RecordingResources : public ResourceObject {
+  public:
+    RecordingResources(std::shared_ptr<EventLog> events, std::shared_ptr<HostAnswers> answers)
+        : objEvents(std::move(events)), objAnswers(std::move(answers))
+    {
+    }
+
+    void SetLogin(std::shared_ptr<LoginContext> /*login*/) override
+    {
+        objEvents->Add("ResourceObject.SetLogin");
+    }
+    std::string GetResString(const std::string& key) override
+    {
+        objEvents->Add("ResourceObject.GetResString " + key);
+        const auto found = objAnswers->texts.find(key);
+        return found == objAnswers->texts.end() ? "<" + key + ">" : found->second;
+    }
+    std::string GetEnumName(const std::string& type, const std::string& code) override
+    {
+        objEvents->Add("ResourceObject.GetEnumName " + type + ", " + code);
+        return "<" + type + " " + code + ">";
+    }
+    void ShowMessage(const std::string& text, int icon) override
+    {
+        objEvents->Add("ResourceObject.ShowMessage " + text + ", " + std::to_string(icon));
+    }
+
+  private:
+    std::shared_ptr<EventLog> objEvents;
+    std::shared_ptr<HostAnswers> objAnswers;
+};
+
+class RecordingLedgerLogin : public LedgerLogin {
+  public:
+    explicit RecordingLedgerLogin(std::shared_ptr<EventLog> events) : objEvents(std::move(events)) {}
+
+    void Initialise(const std::string& connectionText, const std::string& passwordText, bool first,
+                    bool second) override
+    {
+        objEvents->Add("LedgerLogin.Initialise '" + connectionText + "', '" + passwordText + "', " +
+                       ToText(first) + ", " + ToText(second));
+    }
+
+  private:
+    std::shared_ptr<EventLog> objEvents;
+};
+
+class RecordingLedgerPub : public LedgerPub {
+  public:
+    explicit RecordingLedgerPub(std::shared_ptr<EventLog> events) : objEvents(std::move(events)) {}
+
+    void SetLogin(std::shared_ptr<LedgerLogin> login) override
+    {
+        objEvents->Add(login == ModPub().gobjLedgerLogin ? "LedgerPub.SetLogin gobjLedgerLogin"
+                                                         : "LedgerPub.SetLogin of another login");
+    }
+    bool Reload(const std::string& first, const std::string& second) override
+    {
+        objEvents->Add("LedgerPub.Reload '" + first + "', '" + second + "'");
+        return false;
+    }
+    std::pair<int, int> GetYearMonthRange(const std::string& year, Connection& /*account*/) override
+    {
+        objEvents->Add("LedgerPub.GetYearMonthRange " + year);
+        return {1, 12};
+    }
+    std::vector<std::string> GetAccountYears(Connection& /*account*/) override
+    {
+        objEvents->Add("LedgerPub.GetAccountYears");
+        return {};
+    }
+    void GetAccountYearParams(LedgerLogin& /*login*/, const std::string& year,
+                              LedgerParams& /*params*/) override
+    {
+        objEvents->Add("LedgerPub.GetAccountYearParams " + year);
+    }
+
+  private:
+    std::shared_ptr<EventLog> objEvents;
+};
+
+class RecordingLedgerParams : public LedgerParams {
+  public:
+    explicit RecordingLedgerParams(std::shared_ptr<EventLog> events) : objEvents(std::move(events)) {}
+
+    std::string ValueStyle() override { return objEvents->Add("LedgerParams.ValueStyle"), "按仓库核算"; }
+
+  private:
+    std::shared_ptr<EventLog> objEvents;
+};
+
+class RecordingMachineInfo : public MachineInfo {
+  public:
+    explicit RecordingMachineInfo(std::shared_ptr<EventLog> events) : objEvents(std::move(events)) {}
+
+    std::string MachineName() override { return objEvents->Add("MachineInfo.MachineName"), "MACHINE"; }
+
+  private:
+    std::shared_ptr<EventLog> objEvents;
+};
+
+class RecordingClientNumber : public ClientNumber {
+  public:
+    RecordingClientNumber(std::shared_ptr<EventLog> events, std::shared_ptr<HostAnswers> answers)
+        : objEvents(std::move(events)), objAnswers(std::move(answers))
+    {
+    }
+
+    Value Number() override { return objEvents->Add("ClientNumber.Number"), objAnswers->clientNumber; }
+
+  private:
+    std::shared_ptr<EventLog> objEvents;
+    std::shared_ptr<HostAnswers> objAnswers;
+};
+
+}  // namespace
+
+void RecordingAuthService::Initialise(const std::string& connectionText, const std::string& userId)
+{
+    objEvents->Add("AuthService.Initialise '" + connectionText + "', '" + userId + "'");
+}
+
+std::string RecordingAuthService::GetList(const std::string& object, const std::string& rule,
+                                          const std::string& action)
+{
+    objEvents->Add("AuthService.GetList '" + object + "', '" + rule + "', '" + action + "'");
+    const auto found = objAnswers->lists.find(object);
+    return found == objAnswers->lists.end() ? "" : found->second;
+}
+
+std::shared_ptr<Connection> RecordingPlatform::CreateConnection()
+{
+    objEvents->Add("new Connection #" + std::to_string(objScript->connections + 1));
+    return std::make_shared<RecordingConnection>(objEvents, objScript);
+}
+
+std::shared_ptr<ResourceObject> RecordingPlatform::CreateResourceObject()
+{
+    objEvents->Add("new ResourceObject");
+    return std::make_shared<RecordingResources>(objEvents, objAnswers);
+}
+
+std::shared_ptr<AuthService> RecordingPlatform::CreateAuthService()
+{
+    objEvents->Add("new AuthService");
+    return std::make_shared<RecordingAuthService>(objEvents, objAnswers);
+}
+
+std::shared_ptr<LedgerLogin> RecordingPlatform::CreateLedgerLogin()
+{
+    objEvents->Add("new LedgerLogin");
+    return std::make_shared<RecordingLedgerLogin>(objEvents);
+}
+
+std::shared_ptr<LedgerPub> RecordingPlatform::CreateLedgerPub()
+{
+    objEvents->Add("new LedgerPub");
+    return std::make_shared<RecordingLedgerPub>(objEvents);
+}
+
+std::shared_ptr<LedgerParams> RecordingPlatform::CreateLedgerParams()
+{
+    objEvents->Add("new LedgerParams");
+    return std::make_shared<RecordingLedgerParams>(objEvents);
+}
+
+std::shared_ptr<MachineInfo> RecordingPlatform::CreateMachineInfo()
+{
+    objEvents->Add("new MachineInfo");
+    return std::make_shared<RecordingMachineInfo>(objEvents);
+}
+
+std::shared_ptr<ClientNumber> RecordingPlatform::CreateClientNumber()
+{
+    objEvents->Add("new ClientNumber");
+    return std::make_shared<RecordingClientNumber>(objEvents, objAnswers);
+}
+
+std::shared_ptr<SettingsStore> RecordingPlatform::CreateSettingsStore()
+{
+    throw Error("This host has no settings.");
+}
+
+std::shared_ptr<XmlDocument> RecordingPlatform::CreateXmlDocument() { throw Error("This host has no XML."); }
+
+Guid RecordingPlatform::CreateGuid()
+{
+    objEvents->Add("CreateGuid");
+    return objAnswers->guid;
+}
+
+std::shared_ptr<LateBound> RecordingPlatform::CreateObject(const std::string& name)
+{
+    throw Error("This host has no object " + name + ".");
+}
+
+}  // namespace kavelin::test

@@ -1,0 +1,61 @@
+// What the front end knows of tables and views: T-SQL's view of them, which DuckDB does not keep
+// (lengths, identity columns, nullability of results), beside their names in DuckDB.
+#pragma once
+
+#include "embedded/SqlType.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kavelin::embedded {
+
+// Facts of the values of a text column that spare work when it is compared. T-SQL compares without
+// regard to case and to trailing blanks, so a comparison folds both sides; a side known to be folded
+// already is compared as it stands. False means "not known", which is always safe.
+struct TextFacts {
+    bool noTrailingBlanks = false;  // no value ends in a blank
+    bool noCase = false;            // no value holds a letter with another case form that it could differ in:
+                                    // only characters outside a-z, and none beyond ASCII that has a case
+
+    bool operator==(const TextFacts&) const = default;
+};
+
+struct ColumnInfo {
+    std::string name;  // as declared
+    SqlType type;
+    bool nullable = true;
+    bool identity = false;
+    std::optional<std::string> defaultSql;  // DuckDB's text of the default value
+    TextFacts facts;
+};
+
+// The databases that every connection sees, and the connection's own tables.
+enum class Database { Account, System, Tempdb, Connection };
+
+enum class ObjectKind { Table, View };
+
+struct ObjectInfo {
+    Database database = Database::Account;
+    ObjectKind kind = ObjectKind::Table;
+    std::string name;      // as created; `#x` keeps its sign
+    std::string duckName;  // in full and quoted: "account"."main"."IA_Subsidiary"
+    std::vector<ColumnInfo> columns;
+};
+
+class Catalog {
+  public:
+    virtual ~Catalog() = default;
+
+    // The object of that name, without regard to case, or null. The pointer holds until the next change.
+    virtual const ObjectInfo* Find(Database database, std::string_view name) const = 0;
+
+    // In full and quoted, the name under which a new table or view of that name is to be made.
+    virtual std::string DuckNameForNew(Database database, std::string_view name) const = 0;
+
+    // The language that DBO.UDF_GetLocaleID() answers on this connection, such as zh-CN.
+    virtual std::string LocaleId() const = 0;
+};
+
+}  // namespace kavelin::embedded

@@ -1,0 +1,40 @@
+// The public classes by the names under which a host creates them: `Kavelin.<class name>`.
+//
+// An object made here is late-bound: its members are called by name. A C++ host may as well use the class
+// itself from its room.
+#pragma once
+
+#include "frame/host/HostObject.h"
+
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace kavelin {
+
+enum class MemberKind { Property, Method };
+
+struct Member {
+    std::string_view name;
+    MemberKind kind;
+    int arguments = 0;  // of a method
+};
+
+struct PublicClass {
+    std::string_view name;               // without "Kavelin."
+    std::span<const Member> members;     // in the order of the public interface
+    std::shared_ptr<LateBound> (*create)();  // null while the class is not part of this build
+};
+
+// All public classes.
+std::span<const PublicClass> PublicClasses();
+
+// A new object of the class, named without regard to case. Throws Error if there is no such class, or if
+// this build doesn't hold it.
+std::shared_ptr<LateBound> CreateObject(std::string_view progId);
+
+// Whether CreateObject makes one.
+bool CanCreate(std::string_view progId);
+
+}  // namespace kavelin

@@ -1,0 +1,43 @@
+// Members of a C++ object, called by name.
+#pragma once
+
+#include "frame/host/HostObject.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kavelin {
+
+// What a late-bound name leads to. A property has `get` and `put`, a method `call`.
+struct Dispatch {
+    std::string_view name = {};
+    std::function<Variant()> get = {};
+    std::function<void(const Variant&)> put = {};
+    std::function<Variant(const std::vector<Variant>&)> call = {};
+    std::size_t arguments = 0;
+};
+
+// A late-bound object over the members of `object`, which it keeps alive.
+std::shared_ptr<LateBound> MakeLateBound(std::shared_ptr<void> object, std::vector<Dispatch> members);
+
+Dispatch TextProperty(std::string_view name, std::string& field);
+Dispatch ObjectProperty(std::string_view name, HostObjectPtr& field);
+Dispatch TextProperty(std::string_view name, std::function<std::string()> get,
+                      std::function<void(const std::string&)> put);
+Dispatch Method(std::string_view name, std::size_t arguments,
+                std::function<Variant(const std::vector<Variant>&)> call);
+
+// A method with one argument of the interface `T`, without a result.
+template <class T, class Call>
+Dispatch MethodOn(std::string_view name, Call call)
+{
+    return Method(name, 1, [name, call](const std::vector<Variant>& arguments) -> Variant {
+        call(*ObjectOf<T>(arguments[0], name));
+        return Value();
+    });
+}
+
+}  // namespace kavelin

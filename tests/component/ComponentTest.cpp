@@ -1,0 +1,223 @@
+#include "component/Component.h"
+
+#include "frame/Errors.h"
+#include "support/RecordingHost.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+namespace kavelin::test {
+
+namespace {
+
+std::string Members(const PublicClass& publicClass)
+{
+    std::string text;
+    for (const Member& member : publicClass.members)
+        text += std::string(text.empty() ? "" : " ") + std::string(member.name) +
+                (member.kind == MemberKind::Method ? "(" + std::to_string(member.arguments) + ")" : "");
+    return text;
+}
+
+// Whether the object has the member as the table lists it. A method is called with one argument too many,
+// which every object that has it refuses by the method's name before it runs.
+std::string Offered(LateBound& object, const Member& member)
+{
+    try {
+        if (member.kind == MemberKind::Property) {
+            object.Get(member.name);
+            return std::string(member.name);
+        }
+        object.Call(member.name, std::vector<Variant>(static_cast<std::size_t>(member.arguments) + 1));
+    } catch (const Error& error) {
+        const std::string wanted = std::string(member.name) + " takes " + std::to_string(member.arguments) +
+                                   " arguments, not " + std::to_string(member.arguments + 1) + ".";
+        return error.what() == wanted ? std::string(member.name) : error.what();
+    }
+    return "it ran";
+}
+
+}  // namespace
+
+TEST(PublicClasses, HaveTheMembersOfTheirInterfacesInOrder)
+{
+    constexpr const char* kFour = "ObjreportManager ReportTitle ObjLogin mConnectionString ";
+    const std::vector<std::pair<std::string, std::string>> wanted = {
+        {"clsFCSumInfo", std::string(kFour) +
+                             "TempTablename(0) GETSQL(1) GetSqlForOld(1) MoveDataDetail(0) GetViewFilter(1)"},
+        {"clsAreaStockReport", "GETSQL(1)"},
+        {"clsSfcSumInfo", std::string(kFour) + "sarn_tmpTable TempTablename(0) MoveDataDetail(0) GETSQL(1)"},
+        {"clsLastRep",
+         std::string(kFour) + "TempTablename GetSqlForOld(1) GETSQL(1) MoveDataDetail(0) Createsql(2)"},
+        {"ClsWtInfo",
+         "sarn_tmpTable TempTablename(0) MoveDataDetail(0) GETSQL(1) GetSqlForOld(1) Execute(1) "
+         "ExecuteForOld(1)"},
+        {"clsCinTurnRep", std::string(kFour) + "TempTablename GetSqlForOld(1) GETSQL(1) MoveDataDetail(0)"},
+        {"ClsABC",
+         std::string(kFour) +
+             "TempTablename GetSqlForOld(1) GETSQL(1) MoveDataDetail(0) ExecuteForOld(1) Execute(1)"},
+        {"clsProPortion", std::string(kFour) + "TempTablename GETSQL(1) MoveDataDetail(0)"},
+        {"ClsBusiness", "Init(1)"},
+        {"clsStaCostacc",
+         "sarn_tmpTable MoveDataDetail(0) GETSQL(1) GetSqlForOld(1) Execute(1) CreateCostInfoTable(9)"},
+        {"clsIaAnalysis", "sarn_tmpTable MoveDataDetail(0) GETSQL(1) Execute(1)"},
+        {"ClsFCInventory", "sarn_tmpTable MoveDataDetail(0) GETSQL(1)"},
+        {"ClsOutDetailInfo", "sarn_tmpTable MoveDataDetail(0) GETSQL(1) Execute(1)"},
+    };
+    std::map<std::string, std::string> given;
+    for (const PublicClass& publicClass : PublicClasses())
+        EXPECT_TRUE(given.emplace(publicClass.name, Members(publicClass)).second) << publicClass.name;
+    for (const auto& [name, members] : wanted)
+        EXPECT_EQ(given[name], members) << name;
+
+    std::set<std::string> names;
+    for (const auto& [name, members] : given)
+        names.insert(name);
+    EXPECT_EQ(names,
+              (std::set<std::string>{
+                  "clsFCSumInfo", "clsAreaStockReport", "clsSFCSumCon", "clsSfcSumInfo", "clsIASFCReport",
+                  "clsLastRep", "ClsWtInfo", "clsCinTurnRep", "clsFilterControl", "ClsABC", "clsProPortion",
+                  "ClsBusiness", "clsStaCostacc", "clsIaAnalysis", "ClsFCInventory", "ClsOutDetailInfo"}));
+}
+
+TEST(PublicClasses, OfTheFilterDialogHaveTheCallbacksInOrder)
+{
+    for (const PublicClass& publicClass : PublicClasses()) {
+        if (publicClass.name == "clsFilterControl") {
+            std::string names;
+            for (const Member& member : publicClass.members)
+                names += std::string(member.name) + " ";
+            EXPECT_EQ(names, "CallBack_FilterInit CallBack_ValueChange CallBack_FilterClick "
+                             "CallBack_ReportViewChange CallBack_ReportViewInit InitAccMonth ");
+        }
+        if (publicClass.name == "clsSFCSumCon") {
+            ASSERT_EQ(publicClass.members.size(), 26U);
+            for (std::size_t i = 0; i < 25; ++i)
+                EXPECT_EQ(publicClass.members[i].kind, MemberKind::Property);
+            EXPECT_EQ(publicClass.members[25].name, "CreateNewTemplate");
+            EXPECT_EQ(publicClass.members[25].arguments, 2);
+        }
+    }
+}
+
+TEST(CreateObject, OffersExactlyTheMembersOfEveryBuiltClass)
+{
+    std::string built;
+    for (const PublicClass& publicClass : PublicClasses()) {
+        const std::string progId = "Kavelin." + std::string(publicClass.name);
+        EXPECT_EQ(CanCreate(progId), publicClass.create != nullptr);
+        if (!publicClass.create) {
+            EXPECT_THROW(CreateObject(progId), Error) << progId;
+            continue;
+        }
+        built += std::string(publicClass.name) + " ";
+        const auto object = CreateObject(progId);
+        std::set<std::string_view> own;
+        for (const Member& member : publicClass.members) {
+            EXPECT_EQ(Offered(*object, member), member.name) << progId;
+            own.insert(member.name);
+        }
+        for (const PublicClass& other : PublicClasses()) {
+            for (const Member& member : other.members) {
+                if (own.contains(member.name))
+                    continue;
+                EXPECT_EQ(Offered(*object, member),
+                          "The object has no member " + std::string(member.name) + ".")
+                    << progId;
+            }
+        }
+    }
+    EXPECT_NE(built.find("clsAreaStockReport"), std::string::npos);
+    EXPECT_NE(built.find("clsProPortion"), std::string::npos);
+    EXPECT_NE(built.find("ClsBusiness"), std::string::npos);
+}
+
+TEST(CreateObject, KnowsClassesAndMembersWithoutRegardToCase)
+{
+    EXPECT_TRUE(CanCreate("kavelin.CLSPROPORTION"));
+    const auto object = CreateObject("KAVELIN.clsproportion");
+    object->Put("REPORTTITLE", Value("capital"));
+    EXPECT_EQ(ValueOf(object->Get("reporttitle"), "title"), Value("capital"));
+    EXPECT_NE(CreateObject("Kavelin.clsProPortion"), object);
+}
+
+TEST(CreateObject, RefusesNamesThatAreNoClass)
+{
+    for (const char* name : {"", "Kavelin", "Kavelin.", "clsProPortion", "Kavelin.clsNothing",
+                             "Kavelin.clsProPortion ", "Other.clsProPortion", "Kavelin.ClsFcSumCon"}) {
+        EXPECT_FALSE(CanCreate(name)) << name;
+        EXPECT_THROW(CreateObject(name), Error) << name;
+    }
+}
+
+TEST(ACreatedObject, RefusesWrongNamesKindsAndArguments)
+{
+    RecordingHost host;
+    const auto object = CreateObject("Kavelin.clsProPortion");
+    EXPECT_THROW(object->Get("Nothing"), Error);
+    EXPECT_THROW(object->Put("Nothing", Value(1)), Error);
+    EXPECT_THROW(object->Call("Nothing", {}), Error);
+    EXPECT_THROW(object->Get("GETSQL"), Error) << "a method is no property";
+    EXPECT_THROW(object->Put("GETSQL", Value(1)), Error);
+    EXPECT_THROW(object->Call("ReportTitle", {}), Error) << "a property is no method";
+    EXPECT_THROW(object->Call("GETSQL", {}), Error);
+    EXPECT_THROW(object->Call("GETSQL", {Value(1), Value(2)}), Error);
+    EXPECT_THROW(object->Call("GETSQL", {Value(1)}), Error) << "no object";
+    EXPECT_THROW(object->Call("GETSQL", {HostObjectPtr()}), Error) << "nothing";
+    EXPECT_THROW(object->Call("GETSQL", {HostObjectPtr(host.LateArgument())}), Error)
+        << "no early-bound argument";
+    EXPECT_THROW(object->Put("ReportTitle", HostObjectPtr()), Error) << "an object is no text";
+    EXPECT_THROW(object->Put("ObjLogin", Value("x")), Error) << "a text is no object";
+    EXPECT_EQ(host.Events().Text(), "");
+}
+
+TEST(ACreatedObject, KeepsItsPlainProperties)
+{
+    RecordingHost host;
+    const auto object = CreateObject("Kavelin.clsProPortion");
+    EXPECT_EQ(ValueOf(object->Get("ReportTitle"), "title"), Value(""));
+    object->Put("mConnectionString", Value(7));
+    EXPECT_EQ(ValueOf(object->Get("mConnectionString"), "text"), Value("7"));
+    const HostObjectPtr login = host.Login();
+    object->Put("ObjLogin", login);
+    EXPECT_EQ(std::get<HostObjectPtr>(object->Get("ObjLogin")), login);
+    object->Put("ObjLogin", HostObjectPtr());
+    EXPECT_EQ(std::get<HostObjectPtr>(object->Get("ObjLogin")), nullptr);
+    object->Put("TempTablename", Value("t"));
+    EXPECT_EQ(ValueOf(object->Get("TempTablename"), "table"), Value("t"));
+}
+
+TEST(ACreatedObject, RunsAReportWhenItsMethodIsCalledByName)
+{
+    RecordingHost host;
+    const auto object = CreateObject("Kavelin.clsAreaStockReport");
+    const Variant result = object->Call("getsql", {HostObjectPtr(host.EarlyArgument())});
+    EXPECT_TRUE(ValueOf(result, "result").IsEmpty());
+    EXPECT_EQ(host.Sent().size(), 1U);
+
+    const auto share = CreateObject("Kavelin.clsProPortion");
+    share->Call("GETSQL", {HostObjectPtr(host.EarlyArgument())});
+    EXPECT_EQ(ValueOf(share->Get("TempTablename"), "table"), Value("tempdb..result"));
+}
+
+TEST(ACreatedObject, SharesNothingWithAnotherOfItsClass)
+{
+    auto object = CreateObject("Kavelin.clsProPortion");
+    object->Put("ReportTitle", Value("kept"));
+    const auto second = CreateObject("Kavelin.clsProPortion");
+    EXPECT_EQ(ValueOf(second->Get("ReportTitle"), "title"), Value(""));
+    object.reset();
+    EXPECT_EQ(ValueOf(second->Get("ReportTitle"), "title"), Value(""));
+}
+
+TEST(ClsBusinessByName, KeepsThePortal)
+{
+    RecordingHost host;
+    const HostObjectPtr portal = host.LateArgument();
+    CreateObject("Kavelin.ClsBusiness")->Call("Init", {portal});
+    EXPECT_EQ(HostObjectPtr(ModPub().gobjBusiness), portal);
+}
+
+}  // namespace kavelin::test

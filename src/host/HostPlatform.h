@@ -1,0 +1,56 @@
+// Everything that the library takes from outside, as the reference host gives it.
+#pragma once
+
+#include "frame/host/Platform.h"
+#include "host/HostConnection.h"
+#include "host/HostLogin.h"
+
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+
+namespace kavelin::host {
+
+struct ShownMessage {
+    std::string text;
+    int icon;  // kInformation or kWarning
+
+    bool operator==(const ShownMessage&) const = default;
+};
+using MessageSink = std::function<void(const ShownMessage&)>;
+
+struct PlatformSettings {
+    ConnectionSource connections;
+    MessageSink onMessage;  // may be empty: messages are dropped
+    std::string accountId;
+    std::string language;  // until the library hands a login to the resource object
+    std::map<std::string, UserRights> users;
+    std::filesystem::path settingsFile;  // of the settings store
+};
+
+class HostPlatform : public Platform {
+  public:
+    explicit HostPlatform(PlatformSettings settings) : objSettings(std::move(settings)) {}
+
+    std::shared_ptr<Connection> CreateConnection() override;
+    std::shared_ptr<ResourceObject> CreateResourceObject() override;
+    std::shared_ptr<AuthService> CreateAuthService() override;
+    std::shared_ptr<LedgerLogin> CreateLedgerLogin() override;
+    std::shared_ptr<LedgerPub> CreateLedgerPub() override;
+    std::shared_ptr<LedgerParams> CreateLedgerParams() override;
+    std::shared_ptr<MachineInfo> CreateMachineInfo() override;
+    std::shared_ptr<ClientNumber> CreateClientNumber() override;
+    std::shared_ptr<SettingsStore> CreateSettingsStore() override;
+    std::shared_ptr<XmlDocument> CreateXmlDocument() override;
+    Guid CreateGuid() override;
+
+    // This host has no objects of the suite: throws Error, naming it.
+    std::shared_ptr<LateBound> CreateObject(const std::string& name) override;
+
+  private:
+    PlatformSettings objSettings;
+};
+
+}  // namespace kavelin::host

@@ -1,0 +1,18 @@
+#include "cli/Commands.h"
+
+#include <CLI/CLI.hpp>
+
+namespace kavelin::cli {
+
+void AddCommands(CLI::App& program, Action& action)
+{
+    AddDemo(program, action);
+    AddReports(program, action);
+    AddFields(program, action);
+    AddRun(program, action);
+    AddAccount(program, action);
+    AddQuery(program, action);
+    AddCompletion(program, action);
+}
+
+}  // namespace kavelin::cli

@@ -1,0 +1,79 @@
+#include "cli/OutputFlags.h"
+
+#include "cli/Messages.h"
+#include "cli/Terminal.h"
+#include "host/HostErrors.h"
+
+#include <fmt/format.h>
+#include <CLI/CLI.hpp>
+
+#include <charconv>
+#include <iostream>
+
+namespace kavelin::cli {
+
+void AddOutputFlags(CLI::App& command, OutputFlags& flags, bool withLimit)
+{
+    command.add_option("--format", flags.format, "table (by default), csv or json")->type_name("FORM");
+    command.add_option("--output", flags.file, "Write the rows to a file, which appears when it is whole")
+        ->type_name("FILE");
+    if (withLimit)
+        command.add_option("--limit", flags.limit, "Put out the first N rows only")->type_name("N");
+}
+
+RowsTarget::RowsTarget(const OutputFlags& flags)
+{
+    if (!flags.format.empty()) {
+        const auto format = host::ParseFormat(flags.format);
+        if (!format)
+            throw host::UsageError(
+                fmt::format("--format takes table, csv or json, not \"{}\".", flags.format));
+        objOptions.format = *format;
+    }
+    if (!flags.limit.empty())
+        objOptions.limit = WholeNumber("--limit", flags.limit, 0);
+    if (flags.file) {
+        objFile = std::make_unique<host::OutputFile>(*flags.file);
+    } else {
+        objOptions.width = TerminalWidth(Stream::Output);
+        objOptions.colour = HasColour(Stream::Output);
+    }
+}
+
+std::ostream& RowsTarget::Stream()
+{
+    return objFile ? objFile->Stream() : std::cout;
+}
+
+void RowsTarget::Write(Recordset& rows)
+{
+    if (blnWritten && objOptions.format != host::OutputFormat::Json)
+        Stream() << (objOptions.format == host::OutputFormat::Csv ? "\r\n" : "\n");
+    blnWritten = true;
+    try {
+        host::WriteRows(rows, objOptions, Stream());
+    } catch (const Error&) {
+        if (!objFile && IsClosedPipe(cli::Stream::Output))
+            throw OutputClosed();
+        throw;
+    }
+}
+
+void RowsTarget::Finish()
+{
+    if (objFile)
+        objFile->Finish();
+}
+
+std::int64_t WholeNumber(const std::string& option, const std::string& text, std::int64_t least)
+{
+    std::int64_t number = 0;
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, number);
+    if (error != std::errc() || stop != end || number < least)
+        throw host::UsageError(
+            fmt::format("{} takes a whole number from {}, not \"{}\".", option, least, text));
+    return number;
+}
+
+}  // namespace kavelin::cli

@@ -1,0 +1,52 @@
+// --format, --output and --limit, and the place where rows go by them.
+#pragma once
+
+#include "frame/Connection.h"
+#include "host/output/Output.h"
+#include "host/output/OutputFile.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace CLI {
+class App;
+}
+
+namespace kavelin::cli {
+
+struct OutputFlags {
+    std::string format;
+    std::optional<std::string> file;
+    std::string limit;
+};
+
+// `flags` must live as long as the command.
+void AddOutputFlags(CLI::App& command, OutputFlags& flags, bool withLimit);
+
+class RowsTarget {
+  public:
+    // Before anything is run: throws UsageError for a flag that makes no sense, Error for a file that
+    // cannot be written.
+    explicit RowsTarget(const OutputFlags& flags);
+
+    // May be called for several row sets; an empty line stands between two of them, but not in JSON.
+    // Throws OutputClosed when nobody reads stdout any more, Error when it takes no more.
+    void Write(Recordset& rows);
+
+    // Puts the file in its place.
+    void Finish();
+
+  private:
+    std::ostream& Stream();
+
+    host::OutputOptions objOptions;
+    std::unique_ptr<host::OutputFile> objFile;  // null: stdout
+    bool blnWritten = false;
+};
+
+// The whole number that an option was given. Throws UsageError, naming the option, for anything else and
+// for less than `least`.
+std::int64_t WholeNumber(const std::string& option, const std::string& text, std::int64_t least);
+
+}  // namespace kavelin::cli

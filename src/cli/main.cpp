@@ -1,0 +1,6 @@
+#include "cli/Program.h"
+
+int main(int argc, char** argv)
+{
+    return kavelin::cli::RunProgram(argc, argv);
+}

@@ -87,7 +87,8 @@ std::string Writer::PlainQuery(const BoundSelect& select, const std::vector<Boun
     const std::vector<GroupKey> keys = GroupKeys(select);
     const Kept kept(objState);
     objState.keys = &keys;
-    objState.order = OrderKeys(select, order);
+    const bool numbered = form.numberFrom || std::ranges::any_of(select.items, IsIdentity);
+    objState.order = OrderKeys(select, order, numbered || select.top);
 
     std::vector<std::string> items;
     if (form.numberFrom)
@@ -133,8 +134,9 @@ std::vector<Writer::GroupKey> Writer::GroupKeys(const BoundSelect& select)
     return keys;
 }
 
-// "ORDER BY ..." of a plain select.
-std::string Writer::OrderKeys(const BoundSelect& select, const std::vector<BoundOrder>& order)
+// "ORDER BY ..." of a plain select. Where the order decides which rows come or which numbers they get,
+// `breakTies`, rows that tie follow each other by their first columns, so that two runs give the same.
+std::string Writer::OrderKeys(const BoundSelect& select, const std::vector<BoundOrder>& order, bool breakTies)
 {
     std::vector<std::string> keys;
     for (const BoundOrder& by : order) {
@@ -150,7 +152,25 @@ std::string Writer::OrderKeys(const BoundSelect& select, const std::vector<Bound
                 Directed(expression.type.IsText() ? Folded(expression) : Value(expression, Fit::Loose),
                          by.descending));
     }
+    if (breakTies && !keys.empty() && !select.distinct)
+        for (std::string& key : TieKeys(select))
+            keys.push_back(std::move(key));
     return OrderBy(keys);
+}
+
+// A few columns tell rows apart; a list may have a hundred.
+std::vector<std::string> Writer::TieKeys(const BoundSelect& select)
+{
+    constexpr std::size_t kMost = 3;
+    std::vector<std::string> keys;
+    for (const BoundItem& item : select.items) {
+        if (keys.size() == kMost)
+            break;
+        if (std::holds_alternative<BoundColumn>(item.expression->node) ||
+            std::holds_alternative<BoundGroupKey>(item.expression->node))
+            keys.push_back(Directed(Value(*item.expression), false));
+    }
+    return keys;
 }
 
 // The rows of a union or a distinct as a derived table, and around it names, order, numbers and TOP.

@@ -104,7 +104,8 @@ class Writer {
     static std::vector<Column> ColumnsOf(const BoundSelect& select);
     std::string Source(const BoundSource& source);
     std::vector<GroupKey> GroupKeys(const BoundSelect& select);
-    std::string OrderKeys(const BoundSelect& select, const std::vector<BoundOrder>& order);
+    std::string OrderKeys(const BoundSelect& select, const std::vector<BoundOrder>& order, bool breakTies);
+    std::vector<std::string> TieKeys(const BoundSelect& select);
 
     Scratch objScratch;
     State objState;

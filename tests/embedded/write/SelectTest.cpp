@@ -42,7 +42,7 @@ TEST(WriteSelect, NamesSourcesByNumberAndEveryColumn)
     Item(select, "", Number(7));
     EXPECT_EQ(Write(OrderedBy(QueryOf(std::move(select)), 0, true)),
               R"(SELECT "s1"."k" AS "cInvCode", 7 AS "c1" FROM "t" AS "s1")"
-              R"( ORDER BY lower(rtrim("s1"."k")) DESC NULLS LAST LIMIT 2)");
+              R"( ORDER BY lower(rtrim("s1"."k")) DESC NULLS LAST, "s1"."k" ASC NULLS FIRST LIMIT 2)");
 }
 
 TEST(WriteSelect, T32OrdersNullFirstAndTextsByTheirFold)

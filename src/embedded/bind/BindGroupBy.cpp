@@ -39,18 +39,22 @@ struct Grouping {
     const std::vector<BoundExprPtr>& keys;
     const Scope& scope;
     Clause clause;
+    bool composable = true;
 
     // Columns of the grouped sources within a subquery have to be keys, and stay columns: a key's number
     // would mean the subquery's own grouping there.
-    void CheckWithin(BoundExprPtr& expression) const
+    void CheckWithin(BoundExprPtr& expression)
     {
-        if (const auto* column = std::get_if<BoundColumn>(&expression->node))
-            if (scope.Holds(column->source) && !KeyOf(*expression, keys))
+        const auto* column = std::get_if<BoundColumn>(&expression->node);
+        if (column && scope.Holds(column->source)) {
+            if (!KeyOf(*expression, keys))
                 RefuseUngrouped(*column, scope, clause, expression->place);
+            composable = false;
+        }
         CheckBelow(*expression);
     }
 
-    void CheckBelow(BoundExpr& expression) const
+    void CheckBelow(BoundExpr& expression)
     {
         const auto check = [this](BoundExprPtr& inner) { CheckWithin(inner); };
         if (BoundQuery* query = QueryWithin(expression))
@@ -58,10 +62,12 @@ struct Grouping {
         ForEachOperand(expression, check);
     }
 
-    void Use(BoundExprPtr& expression) const
+    void Use(BoundExprPtr& expression)
     {
-        if (std::holds_alternative<BoundAggregate>(expression->node))
+        if (const auto* aggregate = std::get_if<BoundAggregate>(&expression->node)) {
+            composable = composable && !aggregate->distinct;
             return;
+        }
         if (const auto key = KeyOf(*expression, keys)) {
             expression->node = BoundGroupKey{*key};
             return;
@@ -93,10 +99,12 @@ std::vector<BoundExprPtr> BindGroupBy(const std::vector<ExprPtr>& groupBy, Scope
     return keys;
 }
 
-void UseGroupKeys(BoundExprPtr& expression, const std::vector<BoundExprPtr>& keys, const Scope& scope,
+bool UseGroupKeys(BoundExprPtr& expression, const std::vector<BoundExprPtr>& keys, const Scope& scope,
                   Clause clause)
 {
-    Grouping{keys, scope, clause}.Use(expression);
+    Grouping grouping{keys, scope, clause};
+    grouping.Use(expression);
+    return grouping.composable;
 }
 
 }  // namespace kavelin::embedded

@@ -74,13 +74,16 @@ BoundSelect BindSelect(const Select& select, const std::vector<OrderItem>& order
 
     bound.grouped = !bound.groupBy.empty() || bound.having || scope.hasAggregates;
     if (bound.grouped) {
+        bound.composable = true;
+        const auto useKeys = [&](BoundExprPtr& expression, Clause clause) {
+            if (expression && !UseGroupKeys(expression, bound.groupBy, scope, clause))
+                bound.composable = false;
+        };
         for (BoundItem& item : bound.items)
-            UseGroupKeys(item.expression, bound.groupBy, scope, Clause::List);
-        if (bound.having)
-            UseGroupKeys(bound.having, bound.groupBy, scope, Clause::Having);
+            useKeys(item.expression, Clause::List);
+        useKeys(bound.having, Clause::Having);
         for (BoundOrder& order : boundOrder)
-            if (order.expression)
-                UseGroupKeys(order.expression, bound.groupBy, scope, Clause::OrderBy);
+            useKeys(order.expression, Clause::OrderBy);
     }
     SettleOrder(boundOrder, bound);
     return bound;

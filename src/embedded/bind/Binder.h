@@ -84,8 +84,9 @@ std::vector<BoundItem> BindSelectList(const Select& select, QueryUse use, Scope&
 std::vector<BoundExprPtr> BindGroupBy(const std::vector<ExprPtr>& groupBy, Scope& scope);
 
 // Puts group keys in place of the expressions that were grouped by. Throws SqlError 8120, 8121 or 8127, as
-// `clause` tells, for a column that is neither grouped nor aggregated.
-void UseGroupKeys(BoundExprPtr& expression, const std::vector<BoundExprPtr>& keys, const Scope& scope,
+// `clause` tells, for a column that is neither grouped nor aggregated. False if groups of the expression
+// cannot be put together from smaller ones, see BoundSelect.
+bool UseGroupKeys(BoundExprPtr& expression, const std::vector<BoundExprPtr>& keys, const Scope& scope,
                   Clause clause);
 
 // ORDER BY of a single select: what names an item of the list refers to it, the rest is bound over the

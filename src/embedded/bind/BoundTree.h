@@ -188,6 +188,9 @@ struct BoundSelect {
     std::vector<BoundSourcePtr> from;
     BoundExprPtr where;
     bool grouped = false;  // GROUP BY, or aggregates without one
+    // Groups may be put together from smaller ones: no aggregate is DISTINCT, and no subquery of the list,
+    // HAVING or ORDER BY reads the grouped rows.
+    bool composable = false;
     std::vector<BoundExprPtr> groupBy;
     BoundExprPtr having;
 };

@@ -77,24 +77,33 @@ std::string Writer::Aggregate(const BoundAggregate& aggregate, const BoundExpr& 
         return fit == Fit::Loose ? text : Cast(text, node.type);
     };
     if (aggregate.kind == AggregateKind::CountRows)
-        return sized("count(*)");
+        return sized(Grouped("count(*)", "sum"));
 
     const BoundExpr& argument = *aggregate.argument;
     const bool text = argument.type.IsText();
     const std::string open = aggregate.distinct ? "(DISTINCT " : "(";
     switch (aggregate.kind) {
         case AggregateKind::Count:
-            return sized("count" + open +
-                         (text && aggregate.distinct ? Folded(argument) : Value(argument, Fit::Loose)) + ")");
+            return sized(Grouped("count" + open +
+                                     (text && aggregate.distinct ? Folded(argument) : Value(argument, Fit::Loose)) +
+                                     ")",
+                                 "sum"));
         case AggregateKind::Min:
         case AggregateKind::Max: {
             const bool least = aggregate.kind == AggregateKind::Min;
-            if (text && !IsFolded(argument.facts))
-                return (least ? "arg_min(" : "arg_max(") + Value(argument) + ", " + Folded(argument) + ")";
-            return (least ? "min(" : "max(") + Value(argument, fit) + ")";
+            if (text && !IsFolded(argument.facts)) {
+                const std::string best = least ? "arg_min(" : "arg_max(";
+                const std::string written = best + Value(argument) + ", " + Folded(argument) + ")";
+                if (!objState.parts)
+                    return written;
+                const std::string part = objState.parts->Aggregate(written);
+                return best + part + ", " + FoldAlone(part, argument.facts) + ")";
+            }
+            const std::string name = least ? "min" : "max";
+            return Grouped(name + "(" + Value(argument, fit) + ")", name);
         }
         case AggregateKind::Sum: {
-            const std::string sum = "sum" + open + Value(argument, Fit::Loose) + ")";
+            const std::string sum = Grouped("sum" + open + Value(argument, Fit::Loose) + ")", "sum");
             const bool natural = node.type.kind == TypeKind::Float ||
                                  (node.type.kind == TypeKind::Decimal && node.type.precision == 38 &&
                                   node.type.scale == ScaleOf(argument.type));
@@ -105,14 +114,18 @@ std::string Writer::Aggregate(const BoundAggregate& aggregate, const BoundExpr& 
             break;
     }
 
-    if (node.type.kind == TypeKind::Float)
+    const bool isFloat = node.type.kind == TypeKind::Float;
+    if (isFloat && !objState.parts)
         return "avg" + open + Value(argument) + ")";
     // DuckDB's avg() is a DOUBLE; T-SQL's is the exact quotient, cut.
-    const std::string values = open + Value(argument, Fit::Loose) + ")";
+    const std::string values = open + Value(argument, isFloat ? Fit::Exact : Fit::Loose) + ")";
+    const std::string sum = Grouped("sum" + values, "sum");
+    const std::string count = Grouped("count" + values, "sum");
+    if (isFloat)
+        return "(" + sum + " / " + count + ")";
     if (node.type.IsInteger())
-        return sized("(sum" + values + " // count" + values + ")");
-    return sized(
-        WriteQuotient({"sum" + values, ScaleOf(argument.type)}, {"count" + values, 0}, ScaleOf(node.type)));
+        return sized("(" + sum + " // " + count + ")");
+    return sized(WriteQuotient({sum, ScaleOf(argument.type)}, {count, 0}, ScaleOf(node.type)));
 }
 
 }  // namespace kavelin::embedded

@@ -84,9 +84,12 @@ std::string Writer::Query(const BoundQuery& query, const QueryForm& form)
 std::string Writer::PlainQuery(const BoundSelect& select, const std::vector<BoundOrder>& order,
                                const QueryForm& form)
 {
-    const std::vector<GroupKey> keys = GroupKeys(select);
+    Parts parts;
+    const bool inParts = GroupsInParts(select);
+    const std::vector<GroupKey> keys = inParts ? GroupKeys(select, parts) : GroupKeys(select);
     const Kept kept(objState);
     objState.keys = &keys;
+    objState.parts = inParts ? &parts : nullptr;
     const bool numbered = form.numberFrom || std::ranges::any_of(select.items, IsIdentity);
     objState.order = OrderKeys(select, order, numbered || select.top);
 
@@ -101,37 +104,16 @@ std::string Writer::PlainQuery(const BoundSelect& select, const std::vector<Boun
         items.push_back("1 AS \"c0\"");  // exists(select * ...)
 
     std::string text = (select.distinct && !form.bare ? "SELECT DISTINCT " : "SELECT ") + Join(items, ", ");
-    if (!select.from.empty())
-        text += " FROM " + Sources(select.from);
-    if (select.where)
-        text += " WHERE " + Clause(*select.where);
-    if (!keys.empty()) {
-        std::vector<std::string> grouped;
-        for (const GroupKey& key : keys)
-            grouped.push_back(key.grouped);
-        text += " GROUP BY " + Join(grouped, ", ");
-    }
+    std::string groups;
+    for (const GroupKey& key : keys)
+        groups += (groups.empty() ? " GROUP BY " : ", ") + key.grouped;
     if (select.having)
-        text += " HAVING " + Clause(*select.having);
+        groups += " HAVING " + Clause(*select.having);
+    text += inParts ? " FROM (" + PartQuery(select, parts) + ") AS " + parts.name : FromWhere(select);
 
     // A window has its rows in order already, and hands them on so.
     const bool ordered = !form.numberFrom || select.top;
-    return text + (ordered ? Spaced(objState.order) : "") + (form.bare ? "" : Limit(select.top));
-}
-
-std::vector<Writer::GroupKey> Writer::GroupKeys(const BoundSelect& select)
-{
-    std::vector<GroupKey> keys;
-    for (const BoundExprPtr& expression : select.groupBy) {
-        std::string value = Value(*expression);
-        if (std::holds_alternative<BoundLiteral>(expression->node))
-            value = Cast(value, expression->type);  // a bare number would be a position
-        if (!expression->type.IsText() || IsFolded(expression->facts))
-            keys.push_back({value, value});
-        else
-            keys.push_back({"any_value(" + value + ")", FoldAlone(value, expression->facts)});
-    }
-    return keys;
+    return text + groups + (ordered ? Spaced(objState.order) : "") + (form.bare ? "" : Limit(select.top));
 }
 
 // "ORDER BY ..." of a plain select. Where the order decides which rows come or which numbers they get,

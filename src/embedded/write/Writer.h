@@ -10,6 +10,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kavelin::embedded {
@@ -55,9 +56,20 @@ class Writer {
         TextFacts facts;
     };
 
+    // The smaller groups that a grouped select is put together from, see Groups.cpp.
+    struct Parts {
+        std::string name;  // of the derived table
+        std::vector<std::string> keys, aggregates;
+
+        // The column k0, k1 ... of a key, a0, a1 ... of an aggregate.
+        std::string Key(std::size_t index) const;
+        std::string Aggregate(const std::string& written);
+    };
+
     // What a subquery, a CASE or a clause sets for itself and gives back.
     struct State {
         const std::vector<GroupKey>* keys = nullptr;
+        Parts* parts = nullptr;  // null where rows are grouped at once
         std::string order;       // of the select being written, for row numbers; may be empty
         bool forgiving = false;  // see Conversion
         bool negated = false;    // inside a NOT, where NULL and false differ
@@ -75,6 +87,7 @@ class Writer {
     // Functions.cpp
     std::string Function(const BoundFunction& function, const BoundExpr& node, Fit fit);
     std::string Aggregate(const BoundAggregate& aggregate, const BoundExpr& node, Fit fit);
+    std::string Grouped(const std::string& aggregate, std::string_view ofParts);
 
     // Arithmetic.cpp
     std::string Arithmetic(const BoundArithmetic& arithmetic, const BoundExpr& node, Fit fit);
@@ -103,7 +116,14 @@ class Writer {
     std::string Distinct(const std::string& core, const std::vector<Column>& columns);
     static std::vector<Column> ColumnsOf(const BoundSelect& select);
     std::string Source(const BoundSource& source);
+
+    // Groups.cpp
+    bool GroupsInParts(const BoundSelect& select) const;
     std::vector<GroupKey> GroupKeys(const BoundSelect& select);
+    std::vector<GroupKey> GroupKeys(const BoundSelect& select, Parts& parts);
+    std::string PartQuery(const BoundSelect& select, const Parts& parts);
+    std::string FromWhere(const BoundSelect& select);
+
     std::string OrderKeys(const BoundSelect& select, const std::vector<BoundOrder>& order, bool breakTies);
     std::vector<std::string> TieKeys(const BoundSelect& select);
 

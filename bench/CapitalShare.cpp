@@ -63,7 +63,8 @@ select "cInvCode", "cInvAddCode", "cInvName", "cInvStd", "cComUnitName", "cInvCC
   from {1} group by all)sql",
         sums, rows));
     session.Run(fmt::format(
-        "create table {} as select row_number() over (order by share desc) as place, * from {} order by 1", ranked, sums));
+        "create table {} as select row_number() over (order by share desc) as place, * from {} order by 1",
+        ranked, sums));
     session.Run("select amount from " + ranked);
     session.Run(fmt::format(
         R"sql(update {0} set share = 100 - (select sum(share) from {0} where "cInvCode" <>
@@ -101,9 +102,9 @@ std::string Fingerprint(std::int64_t rows, const Value& amount, const Value& sha
 
 std::string FingerprintOfReport(host::ReportRun& run)
 {
-    const auto rows = run.Account().OpenRecordset(
-        "select count(*), sum(资金占用额), sum(所占比重) from " + run.TableName(), CursorLocation::Client,
-        CursorType::Static, LockType::ReadOnly);
+    const auto rows =
+        run.Account().OpenRecordset("select count(*), sum(资金占用额), sum(所占比重) from " + run.TableName(),
+                                    CursorLocation::Client, CursorType::Static, LockType::ReadOnly);
     return Fingerprint(ToInt32(rows->Field(0)), rows->Field(1), rows->Field(2));
 }
 
@@ -168,13 +169,15 @@ int main(int argumentCount, char** arguments)
         }
 
         contenders.push_back({"report", [&] { run.Run(report, noFilter); }});
-        contenders.push_back({"same passes by hand, work tables in memory", [&] { RunPasses(session, "work"); }});
-        contenders.push_back({"same passes by hand, work tables in the file", [&] { RunPasses(session, "account"); }});
+        contenders.push_back(
+            {"same passes by hand, work tables in memory", [&] { RunPasses(session, "work"); }});
+        contenders.push_back(
+            {"same passes by hand, work tables in the file", [&] { RunPasses(session, "account"); }});
         contenders.push_back({"best single query by hand", [&] { RunBestQuery(session); }});
         bench::MeasureInTurn(contenders, rounds);
     }
-    const std::string command =
-        fmt::format("{} run capital-share --account {} --format csv > /dev/null", KAVELIN_PROGRAM, path.string());
+    const std::string command = fmt::format("{} run capital-share --account {} --format csv > /dev/null",
+                                            KAVELIN_PROGRAM, path.string());
     std::vector<bench::Contender> whole;
     whole.push_back({"whole command", [&] {
                          if (std::system(command.c_str()) != 0)

@@ -31,7 +31,8 @@ double Median(std::vector<double> milliseconds)
 {
     std::sort(milliseconds.begin(), milliseconds.end());
     const std::size_t middle = milliseconds.size() / 2;
-    return milliseconds.size() % 2 ? milliseconds[middle] : (milliseconds[middle - 1] + milliseconds[middle]) / 2;
+    return milliseconds.size() % 2 ? milliseconds[middle]
+                                   : (milliseconds[middle - 1] + milliseconds[middle]) / 2;
 }
 
 void PrintTable(const std::vector<Contender>& contenders)

@@ -14,12 +14,14 @@ struct RangeKey {
 };
 
 // `imonth` holds dates, in spite of its name.
+// clang-format off
 constexpr RangeKey kRangeKeys[] = {
     {"cinvcode",  " And " "IA_Subsidiary.cinvcode>='", " And " "IA_Subsidiary.cinvcode<='"},
     {"cwhcode",   " And " "IA_Subsidiary.cWhCode>='",  " And " "IA_Subsidiary.cWhCode<='" },
     {"cinvccode", " And " " cinvccode>='",             " And " " cinvccode<='"            },
     {"imonth",    " and dkeepdate >= '",               " and dkeepdate <= '"              },
 };
+// clang-format on
 
 constexpr std::int32_t kHandledHere = 1;
 
@@ -55,7 +57,7 @@ std::string BuildRankWhere(ReportFilterObject& filter)
             return;
         const std::string value = FilterText(item.varValue());
         if (!value.empty())
-            where += "  " " and cNo<=" + value;
+            where += "   and cNo<=" + value;
     });
     return where;
 }

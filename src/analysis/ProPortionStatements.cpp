@@ -23,7 +23,8 @@ constexpr std::string_view kShare =
 std::string DropIfExists(std::string_view table)
 {
     const std::string name(table);
-    return "if exists (SELECT name FROM sysobjects WHERE name = '" + name + "' And xtype = 'U') Drop Table " + name;
+    return "if exists (SELECT name FROM sysobjects WHERE name = '" + name + "' And xtype = 'U') Drop Table " +
+           name;
 }
 
 std::string SelectLedgerRows(const std::string& year, const std::string& range, const std::string& permission)
@@ -37,11 +38,15 @@ std::string SelectLedgerRows(const std::string& year, const std::string& range, 
                " left join Inventory on Inventory.cInvCode = IA_Subsidiary.cInvCode ",
                " Left Join ComputationUnit ON Inventory.cComunitCode = ComputationUnit.ccomunitcode ",
            }) +
-           " where iyear=" + year + " and cVouType<>'33' and (cbustype not like '直运%' or cBusType is null )And " +
-           range + "  " + permission;
+           " where iyear=" + year +
+           " and cVouType<>'33' and (cbustype not like '直运%' or cBusType is null )And " + range + "  " +
+           permission;
 }
 
-std::string SelectGrandTotal() { return "select sum(资金占用额) from ia_ProPortionRpt_temp1"; }
+std::string SelectGrandTotal()
+{
+    return "select sum(资金占用额) from ia_ProPortionRpt_temp1";
+}
 
 std::string SelectItemSums()
 {
@@ -61,7 +66,10 @@ std::string SelectRankedItems()
            " order by 所占比重 desc";
 }
 
-std::string SelectRankedAmounts() { return "select (资金占用额) from ia_ProPortionRpt_temp"; }
+std::string SelectRankedAmounts()
+{
+    return "select (资金占用额) from ia_ProPortionRpt_temp";
+}
 
 std::string UpdateLargestShare()
 {

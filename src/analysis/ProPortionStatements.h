@@ -14,7 +14,8 @@ std::string DropIfExists(std::string_view table);
 
 // Ledger lines of the year with their signed amount. Opening estimates (33) and direct shipments are left
 // out; a line without a business type stays.
-std::string SelectLedgerRows(const std::string& year, const std::string& range, const std::string& permission);
+std::string SelectLedgerRows(const std::string& year, const std::string& range,
+                             const std::string& permission);
 
 std::string SelectGrandTotal();
 

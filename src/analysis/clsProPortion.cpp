@@ -14,7 +14,10 @@ constexpr PermissionColumn kPermissionColumns[] = {
     {" Inventory.iid", "存货"},
 };
 
-std::string BuildPermissionWhere() { return BuildPermissionClauses(kPermissionColumns); }
+std::string BuildPermissionWhere()
+{
+    return BuildPermissionClauses(kPermissionColumns);
+}
 
 std::unique_ptr<Recordset> OpenStatic(Connection& connection, const std::string& sql)
 {
@@ -22,13 +25,17 @@ std::unique_ptr<Recordset> OpenStatic(Connection& connection, const std::string&
 }
 
 // The grand total of an empty ledger is null.
-bool IsNotZero(const Value& total) { return !total.IsNull() && ToDouble(total) != 0; }
+bool IsNotZero(const Value& total)
+{
+    return !total.IsNull() && ToDouble(total) != 0;
+}
 
 }  // namespace
 
 void clsProPortion::GETSQL(ReportCallArgs& e)
 {
-    RunFrame(FindFrameRow("clsProPortion", FrameEntry::GETSQL), e, objFrame, [this] { return MoveDataDetail(); });
+    RunFrame(FindFrameRow("clsProPortion", FrameEntry::GETSQL), e, objFrame,
+             [this] { return MoveDataDetail(); });
 }
 
 bool clsProPortion::MoveDataDetail()

@@ -18,12 +18,10 @@ std::string Offer(const CompletionOption& option)
             return "COMPREPLY=($(compgen -f -- \"$cur\")); compopt -o filenames 2>/dev/null";
         case Completes::Folder:
             return "COMPREPLY=($(compgen -d -- \"$cur\")); compopt -o filenames 2>/dev/null";
-        case Completes::Report:
-            return "COMPREPLY=($(compgen -W \"$reports\" -- \"$cur\"))";
+        case Completes::Report: return "COMPREPLY=($(compgen -W \"$reports\" -- \"$cur\"))";
         case Completes::Key:
             return "COMPREPLY=($(compgen -S = -W \"$keys\" -- \"$cur\")); compopt -o nospace 2>/dev/null";
-        case Completes::Nothing:
-            break;
+        case Completes::Nothing: break;
     }
     return "";
 }

@@ -29,18 +29,12 @@ std::string At(const CompletionCommand& command)
 std::string ValueOf(const CompletionOption& option)
 {
     switch (option.value) {
-        case Completes::Words:
-            return " -a " + Quoted(Joined(option.words));
-        case Completes::File:
-            return " -F";
-        case Completes::Folder:
-            return " -a '(__fish_complete_directories)'";
-        case Completes::Report:
-            return " -a '(__kavelin_reports)'";
-        case Completes::Key:
-            return " -a '(__kavelin_keys)'";
-        case Completes::Nothing:
-            break;
+        case Completes::Words: return " -a " + Quoted(Joined(option.words));
+        case Completes::File: return " -F";
+        case Completes::Folder: return " -a '(__fish_complete_directories)'";
+        case Completes::Report: return " -a '(__kavelin_reports)'";
+        case Completes::Key: return " -a '(__kavelin_keys)'";
+        case Completes::Nothing: break;
     }
     return "";
 }

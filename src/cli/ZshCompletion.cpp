@@ -21,18 +21,12 @@ std::string Described(const std::string& text)
 std::string ValueAction(const CompletionOption& option)
 {
     switch (option.value) {
-        case Completes::Words:
-            return "(" + Joined(option.words) + ")";
-        case Completes::File:
-            return "_files";
-        case Completes::Folder:
-            return "_files -/";
-        case Completes::Report:
-            return "_kavelin_reports";
-        case Completes::Key:
-            return "_kavelin_keys";
-        case Completes::Nothing:
-            break;
+        case Completes::Words: return "(" + Joined(option.words) + ")";
+        case Completes::File: return "_files";
+        case Completes::Folder: return "_files -/";
+        case Completes::Report: return "_kavelin_reports";
+        case Completes::Key: return "_kavelin_keys";
+        case Completes::Nothing: break;
     }
     return "";
 }

@@ -22,8 +22,8 @@ struct Member {
 };
 
 struct PublicClass {
-    std::string_view name;               // without "Kavelin."
-    std::span<const Member> members;     // in the order of the public interface
+    std::string_view name;                   // without "Kavelin."
+    std::span<const Member> members;         // in the order of the public interface
     std::shared_ptr<LateBound> (*create)();  // null while the class is not part of this build
 };
 

@@ -36,8 +36,8 @@ class DispatchedObject : public LateBound {
         if (!found.call)
             throw Error(std::string(found.name) + " is a property.");
         if (arguments.size() != found.arguments)
-            throw Error(std::string(found.name) + " takes " + std::to_string(found.arguments) + " arguments, not " +
-                        std::to_string(arguments.size()) + ".");
+            throw Error(std::string(found.name) + " takes " + std::to_string(found.arguments) +
+                        " arguments, not " + std::to_string(arguments.size()) + ".");
         return found.call(arguments);
     }
 
@@ -72,7 +72,8 @@ Dispatch TextProperty(std::string_view name, std::function<std::string()> get,
 
 Dispatch TextProperty(std::string_view name, std::string& field)
 {
-    return TextProperty(name, [&field] { return field; }, [&field](const std::string& text) { field = text; });
+    return TextProperty(
+        name, [&field] { return field; }, [&field](const std::string& text) { field = text; });
 }
 
 Dispatch ObjectProperty(std::string_view name, HostObjectPtr& field)

@@ -7,6 +7,7 @@ namespace {
 
 using enum MemberKind;
 
+// clang-format off
 constexpr Member kFCSumInfo[] = {
     {"ObjreportManager", Property}, {"ReportTitle", Property},  {"ObjLogin", Property},
     {"mConnectionString", Property}, {"TempTablename", Method}, {"GETSQL", Method, 1},
@@ -99,9 +100,13 @@ constexpr PublicClass kPublicClasses[] = {
     {"ClsFCInventory", kFCInventory, nullptr},
     {"ClsOutDetailInfo", kOutDetailInfo, nullptr},
 };
+// clang-format on
 
 }  // namespace
 
-std::span<const PublicClass> PublicClasses() { return kPublicClasses; }
+std::span<const PublicClass> PublicClasses()
+{
+    return kPublicClasses;
+}
 
 }  // namespace kavelin

@@ -84,18 +84,15 @@ CsvReader::After CsvReader::ReadSeparator()
 {
     const int separator = Take();
     switch (separator) {
-        case ',':
-            return After::Field;
+        case ',': return After::Field;
         case '\r':
             if (objInput->sgetc() != '\n')
                 throw CsvError(lngLine, "a carriage return stands without a line feed behind it");
             Take();
             return After::Record;
         case '\n':
-        case kEnd:
-            return After::Record;
-        default:
-            throw CsvError(lngLine, "more text stands behind a closing quote");
+        case kEnd: return After::Record;
+        default: throw CsvError(lngLine, "more text stands behind a closing quote");
     }
 }
 

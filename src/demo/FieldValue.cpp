@@ -163,28 +163,17 @@ std::optional<Value> Read(const std::string& text, const SqlType& type)
 {
     switch (type.kind) {
         case TypeKind::Varchar:
-        case TypeKind::Nvarchar:
-            return ReadText(text, type);
-        case TypeKind::Bit:
-            return ReadBit(text);
-        case TypeKind::Tinyint:
-            return ReadInteger<std::uint8_t>(text);
-        case TypeKind::Smallint:
-            return ReadInteger<std::int16_t>(text);
-        case TypeKind::Int:
-            return ReadInteger<std::int32_t>(text);
-        case TypeKind::Bigint:
-            return ReadInteger<std::int64_t>(text);
-        case TypeKind::Money:
-            return ReadDecimal(text, 19, 4);
-        case TypeKind::Decimal:
-            return ReadDecimal(text, type.precision, type.scale);
-        case TypeKind::Float:
-            return ReadFloat(text);
-        case TypeKind::Datetime:
-            return ReadDate(text);
-        case TypeKind::Null:
-            break;
+        case TypeKind::Nvarchar: return ReadText(text, type);
+        case TypeKind::Bit: return ReadBit(text);
+        case TypeKind::Tinyint: return ReadInteger<std::uint8_t>(text);
+        case TypeKind::Smallint: return ReadInteger<std::int16_t>(text);
+        case TypeKind::Int: return ReadInteger<std::int32_t>(text);
+        case TypeKind::Bigint: return ReadInteger<std::int64_t>(text);
+        case TypeKind::Money: return ReadDecimal(text, 19, 4);
+        case TypeKind::Decimal: return ReadDecimal(text, type.precision, type.scale);
+        case TypeKind::Float: return ReadFloat(text);
+        case TypeKind::Datetime: return ReadDate(text);
+        case TypeKind::Null: break;
     }
     return std::nullopt;
 }
@@ -197,24 +186,15 @@ std::string Wanted(const SqlType& type)
             return type.length == embedded::kMaxLength
                        ? "is not UTF-8 text"
                        : "is not UTF-8 text of at most " + std::to_string(type.length) + " characters";
-        case TypeKind::Bit:
-            return "is not 0 or 1";
-        case TypeKind::Tinyint:
-            return "is not a whole number from 0 to 255";
-        case TypeKind::Smallint:
-            return "is not a whole number from -32768 to 32767";
-        case TypeKind::Int:
-            return "is not a whole number from -2147483648 to 2147483647";
-        case TypeKind::Bigint:
-            return "is not a whole number of at most 64 bits";
-        case TypeKind::Money:
-            return "is not an amount of at most 15 digits and 4 decimals";
-        case TypeKind::Float:
-            return "is not a number";
-        case TypeKind::Datetime:
-            return "is not a date YYYY-MM-DD, or one with a time hh:mm:ss behind it";
-        default:
-            return "is not a " + ToText(type);
+        case TypeKind::Bit: return "is not 0 or 1";
+        case TypeKind::Tinyint: return "is not a whole number from 0 to 255";
+        case TypeKind::Smallint: return "is not a whole number from -32768 to 32767";
+        case TypeKind::Int: return "is not a whole number from -2147483648 to 2147483647";
+        case TypeKind::Bigint: return "is not a whole number of at most 64 bits";
+        case TypeKind::Money: return "is not an amount of at most 15 digits and 4 decimals";
+        case TypeKind::Float: return "is not a number";
+        case TypeKind::Datetime: return "is not a date YYYY-MM-DD, or one with a time hh:mm:ss behind it";
+        default: return "is not a " + ToText(type);
     }
 }
 

@@ -69,9 +69,7 @@ void AddPlaces(std::vector<Place>& places, const Item& item, std::string_view wa
     place.weight = weight;
 
     switch (item.kept) {
-        case Kept::Nothing:
-            places.push_back(place);
-            break;
+        case Kept::Nothing: places.push_back(place); break;
         case Kept::Colours:
             for (const std::string_view colour : Colours()) {
                 place.colour = colour;

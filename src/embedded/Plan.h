@@ -5,8 +5,8 @@
 #pragma once
 
 #include "embedded/Catalog.h"
-#include "embedded/SqlType.h"
 #include "embedded/SqlError.h"
+#include "embedded/SqlType.h"
 #include "embedded/syntax/Tree.h"
 
 #include <optional>

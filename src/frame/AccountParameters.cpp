@@ -64,8 +64,7 @@ bool GetPeriodDates(std::int32_t lngPeriod, Value* varBegin, Value* varEnd, std:
     LoginContext& login = *ModPub().gobjLogin;
     if (strYear.empty())
         strYear = login.Year();
-    const auto rows =
-        OpenForward(*ModPub().gcnnSystem, SelectPeriod(login.AccountId(), strYear, lngPeriod));
+    const auto rows = OpenForward(*ModPub().gcnnSystem, SelectPeriod(login.AccountId(), strYear, lngPeriod));
     if (rows->Eof())
         return false;
     if (varBegin)

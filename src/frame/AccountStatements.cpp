@@ -21,8 +21,8 @@ std::string SelectPeriod(const std::string& strAccountId, const std::string& str
 
 std::string SelectInvDefineName(int number)
 {
-    return "Select * from UserDef  where cClass = N'存货' and  cItem = N'自定义项" + std::to_string(number) + "'" +
-           " and isnull(cItemName, N'')<> N''";
+    return "Select * from UserDef  where cClass = N'存货' and  cItem = N'自定义项" + std::to_string(number) +
+           "'" + " and isnull(cItemName, N'')<> N''";
 }
 
 }  // namespace kavelin

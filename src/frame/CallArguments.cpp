@@ -15,18 +15,30 @@ HostObjectPtr ReportManagerOf(LateBound& e)
 
 }  // namespace
 
-std::shared_ptr<ReportFilterObject> EarlyArguments::RawFilter() { return objArguments.RawFilter(); }
+std::shared_ptr<ReportFilterObject> EarlyArguments::RawFilter()
+{
+    return objArguments.RawFilter();
+}
 
-std::shared_ptr<LoginContext> EarlyArguments::Login() { return objArguments.Login(); }
+std::shared_ptr<LoginContext> EarlyArguments::Login()
+{
+    return objArguments.Login();
+}
 
-HostObjectPtr EarlyArguments::ObjreportManager() { return ReportManagerOf(objArguments); }
+HostObjectPtr EarlyArguments::ObjreportManager()
+{
+    return ReportManagerOf(objArguments);
+}
 
 Value EarlyArguments::ArgItem(std::string_view key)
 {
     return ValueOf(objArguments.Args()->Item(key), "an argument");
 }
 
-std::string EarlyArguments::LangID() { return objArguments.LangID(); }
+std::string EarlyArguments::LangID()
+{
+    return objArguments.LangID();
+}
 
 void EarlyArguments::SetDataSourceType(std::int16_t type)
 {
@@ -34,7 +46,10 @@ void EarlyArguments::SetDataSourceType(std::int16_t type)
     objDataSource->SetType(type);
 }
 
-std::string EarlyArguments::Sql() { return objDataSource->sql(); }
+std::string EarlyArguments::Sql()
+{
+    return objDataSource->sql();
+}
 
 std::shared_ptr<ReportFilterObject> LateArguments::RawFilter()
 {
@@ -46,7 +61,10 @@ std::shared_ptr<LoginContext> LateArguments::Login()
     return ObjectOf<LoginContext>(objArguments.Get("Login"), "Login");
 }
 
-HostObjectPtr LateArguments::ObjreportManager() { return ReportManagerOf(objArguments); }
+HostObjectPtr LateArguments::ObjreportManager()
+{
+    return ReportManagerOf(objArguments);
+}
 
 Value LateArguments::ArgItem(std::string_view key)
 {
@@ -54,7 +72,10 @@ Value LateArguments::ArgItem(std::string_view key)
     return ValueOf(arguments->Call("Item", {Value(key)}), "an argument");
 }
 
-std::string LateArguments::LangID() { return ToText(ValueOf(objArguments.Get("LangID"), "LangID")); }
+std::string LateArguments::LangID()
+{
+    return ToText(ValueOf(objArguments.Get("LangID"), "LangID"));
+}
 
 void LateArguments::SetDataSourceType(std::int16_t type)
 {
@@ -62,6 +83,9 @@ void LateArguments::SetDataSourceType(std::int16_t type)
     objDataSource->Put(strTypeMember, Value(std::int32_t{type}));
 }
 
-std::string LateArguments::Sql() { return ToText(ValueOf(objDataSource->Get("sql"), "sql")); }
+std::string LateArguments::Sql()
+{
+    return ToText(ValueOf(objDataSource->Get("sql"), "sql"));
+}
 
 }  // namespace kavelin

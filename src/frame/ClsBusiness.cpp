@@ -4,6 +4,9 @@
 
 namespace kavelin {
 
-void ClsBusiness::Init(std::shared_ptr<LateBound> oBusiness) { ModPub().gobjBusiness = std::move(oBusiness); }
+void ClsBusiness::Init(std::shared_ptr<LateBound> oBusiness)
+{
+    ModPub().gobjBusiness = std::move(oBusiness);
+}
 
 }  // namespace kavelin

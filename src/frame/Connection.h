@@ -25,7 +25,7 @@ class Recordset {
 
     virtual bool Eof() const = 0;
     virtual void MoveNext() = 0;
-    virtual void MoveFirst() = 0;             // static sets only
+    virtual void MoveFirst() = 0;                  // static sets only
     virtual std::int64_t RecordCount() const = 0;  // -1 for a forward-only set
 
     virtual int FieldCount() const = 0;

@@ -9,25 +9,28 @@ namespace {
 
 constexpr std::string_view kNoRight = "Null";
 
-bool IsOn(const char* name) { return ToUpper(ToText(GetAccInfoValue("IA", name))) == "TRUE"; }
+bool IsOn(const char* name)
+{
+    return ToUpper(ToText(GetAccInfoValue("IA", name))) == "TRUE";
+}
 
 std::string WarehouseClause(const std::string& field, bool forWrite, bool noCostLimit)
 {
     if (IsOn("bWarehouseCheck")) {
         const std::string list = GetWarehouseAuth(forWrite);
         return list.empty() ? ""
-                            : " ((" + field + " IN (Select cWhCode From Warehouse Where bInCost = 1) and " + field +
-                                  " IN (" + list + "))" " or " + field + " is null)";
+                            : " ((" + field + " IN (Select cWhCode From Warehouse Where bInCost = 1) and " +
+                                  field + " IN (" + list + ")) or " + field + " is null)";
     }
     return noCostLimit ? ""
-                       : " ((" + field + " IN (Select cWhCode From Warehouse Where bInCost = 1))  or " + field +
-                             " is null) ";
+                       : " ((" + field + " IN (Select cWhCode From Warehouse Where bInCost = 1))  or " +
+                             field + " is null) ";
 }
 
 std::string DepartmentClause(const std::string& field, bool forWrite)
 {
     const std::string list = IsOn("bDepartmentCheck") ? GetDepartmentAuth(forWrite) : "";
-    return list.empty() ? "" : "(" + field + " IN (" + list + ")" " or " + field + " is null)";
+    return list.empty() ? "" : "(" + field + " IN (" + list + ") or " + field + " is null)";
 }
 
 std::string InventoryClause(const std::string& field, bool forWrite)
@@ -44,7 +47,10 @@ std::string OperatorClause(const std::string& field, bool forWrite)
     return list.empty() ? "" : field + " IN (" + list + ")";
 }
 
-std::string WriteOr(bool forWrite, const char* readAction) { return forWrite ? "W" : readAction; }
+std::string WriteOr(bool forWrite, const char* readAction)
+{
+    return forWrite ? "W" : readAction;
+}
 
 // Gives gobjAuth back, whatever happens.
 struct AuthGuard {
@@ -85,15 +91,28 @@ std::string GetDataPermissionClause(const std::string& strField, std::string_vie
     return "";
 }
 
-std::string GetWarehouseAuth(bool blnForWrite) { return GetAuthClause("Warehouse", "", WriteOr(blnForWrite, "")); }
+std::string GetWarehouseAuth(bool blnForWrite)
+{
+    return GetAuthClause("Warehouse", "", WriteOr(blnForWrite, ""));
+}
 
-std::string GetDepartmentAuth(bool blnForWrite) { return GetAuthClause("Department", "", WriteOr(blnForWrite, "")); }
+std::string GetDepartmentAuth(bool blnForWrite)
+{
+    return GetAuthClause("Department", "", WriteOr(blnForWrite, ""));
+}
 
-std::string GetInventoryAuth(bool blnForWrite) { return GetAuthClause("Inventory", "", WriteOr(blnForWrite, "")); }
+std::string GetInventoryAuth(bool blnForWrite)
+{
+    return GetAuthClause("Inventory", "", WriteOr(blnForWrite, ""));
+}
 
-std::string GetUserAuth(bool blnForWrite) { return GetAuthClause("User", "", WriteOr(blnForWrite, "R")); }
+std::string GetUserAuth(bool blnForWrite)
+{
+    return GetAuthClause("User", "", WriteOr(blnForWrite, "R"));
+}
 
-std::string GetAuthClause(const std::string& strObject, const std::string& strRule, const std::string& strAction)
+std::string GetAuthClause(const std::string& strObject, const std::string& strRule,
+                          const std::string& strAction)
 {
     try {
         return IsAuthSwitchedOn(strObject) ? AskForList(strObject, strRule, strAction) : "";

@@ -23,7 +23,8 @@ std::string GetUserAuth(bool blnForWrite);
 
 // The list of `strObject`, or of the object "djmb" under a rule. Swallows every error: a service that fails
 // restricts nothing.
-std::string GetAuthClause(const std::string& strObject, const std::string& strRule, const std::string& strAction);
+std::string GetAuthClause(const std::string& strObject, const std::string& strRule,
+                          const std::string& strAction);
 
 // Whether the account restricts the authorisation object `strKind`. Operators are always asked for.
 bool IsAuthSwitchedOn(const std::string& strKind);

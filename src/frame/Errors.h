@@ -26,10 +26,10 @@ class OverflowError : public Error {
 class DatabaseError : public Error {
   public:
     struct Details {
-        std::string strMessage;    // the server's text, without decoration
-        std::string strSqlState;   // five characters, or empty
+        std::string strMessage;      // the server's text, without decoration
+        std::string strSqlState;     // five characters, or empty
         std::int32_t lngNumber = 0;  // the server's native number, 0 if it gave none
-        std::string strStatement;  // the text that was sent, empty for a failed connection
+        std::string strStatement;    // the text that was sent, empty for a failed connection
         std::int32_t lngLine = 0;    // from 1, where the server tells it, else 0
         std::int32_t lngColumn = 0;  // in characters from 1, else 0
     };

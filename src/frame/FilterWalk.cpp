@@ -2,6 +2,9 @@
 
 namespace kavelin {
 
-std::string FilterText(const Value& value) { return value.IsNull() ? "" : ToText(value); }
+std::string FilterText(const Value& value)
+{
+    return value.IsNull() ? "" : ToText(value);
+}
 
 }  // namespace kavelin

@@ -27,6 +27,7 @@ constexpr auto kTrue = FrameSuccess::True;
 constexpr auto kForget = FrameEnd::CloseAndForget;
 constexpr auto kClose = FrameEnd::Close;
 
+// clang-format off
 constexpr FrameRow kFrameRows[] = {
     // class              entry         late type   reads                    opens     success  end
     {"ClsWtInfo",         GETSQL,       "",         kOrdinary,               kAccount, kEmptyText, kForget},
@@ -48,6 +49,7 @@ constexpr FrameRow kFrameRows[] = {
     {"clsProPortion",     GETSQL,       "",         kWithoutLanguage,        kOwn,     kTrue,      FrameEnd::CloseOwn},
     {"clsAreaStockReport", GETSQL,      "",         kArea,                   kAccount, FrameSuccess::Always, kClose},
 };
+// clang-format on
 
 constexpr std::int16_t kDataFromTable = 2;
 constexpr std::int32_t kNoOptions = -1;
@@ -67,7 +69,8 @@ void OpenSystemDatabase(ModPubState& state)
     state.gcnnSystem->SetCursorLocation(CursorLocation::Client);
     const auto database =
         ObjectOf<LateBound>(state.gobjLogin->SystemDatabase()->Get("DbConnect"), "DbConnect");
-    state.gcnnSystem->SetConnectionString(ToText(ValueOf(database->Get("ConnectionString"), "ConnectionString")));
+    state.gcnnSystem->SetConnectionString(
+        ToText(ValueOf(database->Get("ConnectionString"), "ConnectionString")));
     state.gcnnSystem->Open("", state.gobjLogin->Password(), kNoOptions);
 }
 
@@ -88,45 +91,24 @@ void TakeLogin(const FrameRow& row, CallArguments& arguments, FrameContext& cont
 void Take(FrameRead read, const FrameRow& row, CallArguments& arguments, FrameContext& context)
 {
     switch (read) {
-    case RawFilter:
-        context.objFilter = arguments.RawFilter();
-        break;
-    case Login:
-        TakeLogin(row, arguments, context);
-        break;
-    case ObjreportManager:
-        context.objReportManager = arguments.ObjreportManager();
-        break;
-    case ArgABC:
-        context.dicArgs[read] = arguments.ArgItem("ABC");
-        break;
-    case DataSource:
-        arguments.SetDataSourceType(kDataFromTable);
-        break;
-    case sql:
-        context.strTable = arguments.Sql();
-        break;
-    case LangID:
-        ModPub().gstrLanguage = arguments.LangID();
-        break;
-    case ArgIADataTable:
-        context.dicArgs[read] = arguments.ArgItem("IADataTable");
-        break;
-    case ArgIAAreeTable:
-        context.dicArgs[read] = arguments.ArgItem("IAAreeTable");
-        break;
+        case RawFilter: context.objFilter = arguments.RawFilter(); break;
+        case Login: TakeLogin(row, arguments, context); break;
+        case ObjreportManager: context.objReportManager = arguments.ObjreportManager(); break;
+        case ArgABC: context.dicArgs[read] = arguments.ArgItem("ABC"); break;
+        case DataSource: arguments.SetDataSourceType(kDataFromTable); break;
+        case sql: context.strTable = arguments.Sql(); break;
+        case LangID: ModPub().gstrLanguage = arguments.LangID(); break;
+        case ArgIADataTable: context.dicArgs[read] = arguments.ArgItem("IADataTable"); break;
+        case ArgIAAreeTable: context.dicArgs[read] = arguments.ArgItem("IAAreeTable"); break;
     }
 }
 
 bool Succeeded(FrameSuccess success, const Value& outcome)
 {
     switch (success) {
-    case FrameSuccess::EmptyText:
-        return EqualsNoCase(ToText(outcome), "");
-    case FrameSuccess::True:
-        return ToBoolean(outcome);
-    case FrameSuccess::Always:
-        break;
+        case FrameSuccess::EmptyText: return EqualsNoCase(ToText(outcome), "");
+        case FrameSuccess::True: return ToBoolean(outcome);
+        case FrameSuccess::Always: break;
     }
     return true;
 }
@@ -147,7 +129,8 @@ void Finish(FrameEnd end, FrameContext& context)
         state.gobjLogin.reset();
 }
 
-void Run(const FrameRow& row, CallArguments& arguments, FrameContext& context, const MoveDataDetailCall& moveDataDetail)
+void Run(const FrameRow& row, CallArguments& arguments, FrameContext& context,
+         const MoveDataDetailCall& moveDataDetail)
 {
     for (const FrameRead read : row.reads)
         Take(read, row, arguments, context);
@@ -157,7 +140,10 @@ void Run(const FrameRow& row, CallArguments& arguments, FrameContext& context, c
 
 }  // namespace
 
-std::span<const FrameRow> FrameRows() { return kFrameRows; }
+std::span<const FrameRow> FrameRows()
+{
+    return kFrameRows;
+}
 
 const FrameRow& FindFrameRow(std::string_view className, FrameEntry entry)
 {
@@ -167,13 +153,15 @@ const FrameRow& FindFrameRow(std::string_view className, FrameEntry entry)
     throw Error("The class " + std::string(className) + " has no such entry.");
 }
 
-void RunFrame(const FrameRow& row, ReportCallArgs& e, FrameContext& context, const MoveDataDetailCall& moveDataDetail)
+void RunFrame(const FrameRow& row, ReportCallArgs& e, FrameContext& context,
+              const MoveDataDetailCall& moveDataDetail)
 {
     EarlyArguments arguments(e);
     Run(row, arguments, context, moveDataDetail);
 }
 
-void RunFrame(const FrameRow& row, LateBound& e, FrameContext& context, const MoveDataDetailCall& moveDataDetail)
+void RunFrame(const FrameRow& row, LateBound& e, FrameContext& context,
+              const MoveDataDetailCall& moveDataDetail)
 {
     LateArguments arguments(e, row.lateTypeMember);
     Run(row, arguments, context, moveDataDetail);

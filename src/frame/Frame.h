@@ -69,7 +69,7 @@ struct FrameContext {
     std::shared_ptr<ReportFilterObject> objFilter;
     std::string strTable;  // the result table
     HostObjectPtr objReportManager;
-    std::map<FrameRead, Value> dicArgs;   // the Arg... members that the entry reads
+    std::map<FrameRead, Value> dicArgs;  // the Arg... members that the entry reads
     std::shared_ptr<Connection> cnnOwn;
 };
 
@@ -77,7 +77,9 @@ using MoveDataDetailCall = std::function<Value()>;
 
 // Runs an entry with an early-bound or a late-bound argument. Errors of the reads and of the connections go
 // to the caller; those of MoveDataDetail too, unless it traps them itself.
-void RunFrame(const FrameRow& row, ReportCallArgs& e, FrameContext& context, const MoveDataDetailCall& moveDataDetail);
-void RunFrame(const FrameRow& row, LateBound& e, FrameContext& context, const MoveDataDetailCall& moveDataDetail);
+void RunFrame(const FrameRow& row, ReportCallArgs& e, FrameContext& context,
+              const MoveDataDetailCall& moveDataDetail);
+void RunFrame(const FrameRow& row, LateBound& e, FrameContext& context,
+              const MoveDataDetailCall& moveDataDetail);
 
 }  // namespace kavelin

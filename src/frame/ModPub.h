@@ -25,13 +25,13 @@ struct ModPubState {
     std::shared_ptr<MachineInfo> gobjMachineInfo;
     std::shared_ptr<LateBound> gobjBusiness;  // the portal; ClsBusiness.Init
     std::shared_ptr<ResourceObject> gobjRes;
-    std::shared_ptr<AuthService> gobjAuth;    // only while a list is asked for
+    std::shared_ptr<AuthService> gobjAuth;  // only while a list is asked for
 
     std::shared_ptr<LedgerLogin> gobjLedgerLogin;
     std::shared_ptr<LedgerPub> gobjLedgerPub;
     std::shared_ptr<LedgerParams> gobjLedgerParams;
 
-    std::string gstrCurrentPeriod;                             // "2008.07"
+    std::string gstrCurrentPeriod;                                // "2008.07"
     std::map<std::string, std::string, LessNoCase> gdicAccMonth;  // open fiscal months
 };
 

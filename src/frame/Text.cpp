@@ -11,8 +11,8 @@ struct CaseBlock {
     char32_t first, last, distance;
 };
 constexpr CaseBlock kCaseBlocks[] = {
-    {U'A', U'Z', 32},          {0x00C0, 0x00D6, 32}, {0x00D8, 0x00DE, 32}, {0x0391, 0x03A1, 32},
-    {0x03A3, 0x03A9, 32},      {0x0410, 0x042F, 32}, {0x0400, 0x040F, 80}, {0xFF21, 0xFF3A, 32},
+    {U'A', U'Z', 32},     {0x00C0, 0x00D6, 32}, {0x00D8, 0x00DE, 32}, {0x0391, 0x03A1, 32},
+    {0x03A3, 0x03A9, 32}, {0x0410, 0x042F, 32}, {0x0400, 0x040F, 80}, {0xFF21, 0xFF3A, 32},
 };
 
 // Blocks in which capital and small letter take turns; the capitals are even or odd.
@@ -21,7 +21,10 @@ struct CasePairs {
     bool evenCapitals;
 };
 constexpr CasePairs kCasePairs[] = {
-    {0x0100, 0x0137, true}, {0x0139, 0x0148, false}, {0x014A, 0x0177, true}, {0x0179, 0x017E, false},
+    {0x0100, 0x0137, true},
+    {0x0139, 0x0148, false},
+    {0x014A, 0x0177, true},
+    {0x0179, 0x017E, false},
 };
 
 char32_t Lower(char32_t c)
@@ -138,9 +141,15 @@ bool LessNoCase::operator()(std::string_view a, std::string_view b) const
     return positionA == a.size() && positionB < b.size();
 }
 
-std::string ToLower(std::string_view text) { return ChangeEach(text, Lower); }
+std::string ToLower(std::string_view text)
+{
+    return ChangeEach(text, Lower);
+}
 
-std::string ToUpper(std::string_view text) { return ChangeEach(text, Upper); }
+std::string ToUpper(std::string_view text)
+{
+    return ChangeEach(text, Upper);
+}
 
 std::string_view Trim(std::string_view text)
 {

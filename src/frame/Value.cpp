@@ -20,7 +20,8 @@ using std::chrono::sys_days;
 using std::chrono::year_month_day;
 
 // Day 0 of dates as numbers.
-constexpr sys_days kDayZero = year_month_day{std::chrono::year{1899}, std::chrono::month{12}, std::chrono::day{30}};
+constexpr sys_days kDayZero =
+    year_month_day{std::chrono::year{1899}, std::chrono::month{12}, std::chrono::day{30}};
 constexpr double kMillisecondsADay = 86'400'000.0;
 
 [[noreturn]] void ThrowTypeMismatch(const std::string& what)
@@ -39,8 +40,8 @@ std::string DoubleToText(double number)
     if (number == 0)
         return "0";  // also of a negative zero
     std::array<char, 32> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
-                                   std::chars_format::general, 15);
+    const auto end =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::general, 15);
     std::string text(buffer.data(), end.ptr);
     for (char& c : text)
         c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
@@ -83,7 +84,8 @@ std::optional<double> WholeNumberText(std::string_view text)
         plain.erase(0, 1);
     double number = 0;
     const auto end = std::from_chars(plain.data(), plain.data() + plain.size(), number);
-    if (plain.empty() || end.ec != std::errc() || end.ptr != plain.data() + plain.size() || !std::isfinite(number))
+    if (plain.empty() || end.ec != std::errc() || end.ptr != plain.data() + plain.size() ||
+        !std::isfinite(number))
         return std::nullopt;
     return number;
 }
@@ -189,8 +191,8 @@ DateTime DateOfNumber(double number)
     const double whole = std::trunc(number);
     const auto day = kDayZero + days(static_cast<std::int64_t>(whole));
     // The fraction is the time of day, also of a day before day 0.
-    return DateTime(day) +
-           milliseconds(static_cast<std::int64_t>(std::llround(std::fabs(number - whole) * kMillisecondsADay)));
+    return DateTime(day) + milliseconds(static_cast<std::int64_t>(
+                               std::llround(std::fabs(number - whole) * kMillisecondsADay)));
 }
 
 double NumberOfDate(DateTime date)
@@ -240,15 +242,30 @@ struct NumberOf {
 
 }  // namespace
 
-std::string ToText(const Value& value) { return std::visit(TextOf{}, value.Get()); }
+std::string ToText(const Value& value)
+{
+    return std::visit(TextOf{}, value.Get());
+}
 
-double ToDouble(const Value& value) { return std::visit(NumberOf{}, value.Get()); }
+double ToDouble(const Value& value)
+{
+    return std::visit(NumberOf{}, value.Get());
+}
 
-std::int32_t ToInt32(const Value& value) { return ToWhole<std::int32_t>(value); }
+std::int32_t ToInt32(const Value& value)
+{
+    return ToWhole<std::int32_t>(value);
+}
 
-std::int16_t ToInt16(const Value& value) { return ToWhole<std::int16_t>(value); }
+std::int16_t ToInt16(const Value& value)
+{
+    return ToWhole<std::int16_t>(value);
+}
 
-std::uint8_t ToByte(const Value& value) { return ToWhole<std::uint8_t>(value); }
+std::uint8_t ToByte(const Value& value)
+{
+    return ToWhole<std::uint8_t>(value);
+}
 
 bool ToBoolean(const Value& value)
 {
@@ -292,7 +309,8 @@ double LeadingNumber(std::string_view text)
     std::size_t start = plain.starts_with('+') ? 1 : 0;
     // from_chars would also take "inf" and "nan".
     const std::size_t first = start + (plain.substr(start).starts_with('-') ? 1 : 0);
-    if (first >= plain.size() || (!std::isdigit(static_cast<unsigned char>(plain[first])) && plain[first] != '.'))
+    if (first >= plain.size() ||
+        (!std::isdigit(static_cast<unsigned char>(plain[first])) && plain[first] != '.'))
         return 0;
     double number = 0;
     std::from_chars(plain.data() + start, plain.data() + plain.size(), number);
@@ -310,8 +328,7 @@ std::string FormatDate(DateTime date)
 
 int MonthOf(DateTime date)
 {
-    return static_cast<int>(
-        static_cast<unsigned>(year_month_day(std::chrono::floor<days>(date)).month()));
+    return static_cast<int>(static_cast<unsigned>(year_month_day(std::chrono::floor<days>(date)).month()));
 }
 
 }  // namespace kavelin

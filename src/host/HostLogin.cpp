@@ -66,8 +66,9 @@ std::string HostAuthService::GetList(const std::string& object, const std::strin
 std::optional<AccountingPeriod> LatestPeriod(Connection& connection, const std::string& accountId, int year)
 {
     // Years are opened ahead of time; one that nothing is posted in yet is not what a user means.
-    const std::string inYear = year == 0 ? " and iYear <= isnull((select max(iYear) from IA_Subsidiary), 9998)"
-                                         : " and iYear = " + std::to_string(year);
+    const std::string inYear = year == 0
+                                   ? " and iYear <= isnull((select max(iYear) from IA_Subsidiary), 9998)"
+                                   : " and iYear = " + std::to_string(year);
     const auto rows = connection.OpenRecordset(
         "select top 1 iYear, iID from VosSystem..UA_Period where cAcc_ID = N'" +
             ReplaceAll(accountId, "'", "''") + "' and iYear <> 9999 and isnull(bIsDelete, 0) = 0" + inYear +

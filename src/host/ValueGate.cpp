@@ -187,17 +187,12 @@ std::string CheckedValue(const FilterField& field, std::string_view value, Value
     if (value.empty() || (trimmed.empty() && field.kind != FieldKind::Text))
         return "";
     switch (field.kind) {
-        case FieldKind::Number:
-            return CheckedNumber(field, trimmed);
-        case FieldKind::Date:
-            return CheckedDate(field, trimmed);
-        case FieldKind::List:
-            return CheckedEntry(field, trimmed);
-        case FieldKind::Flag:
-            return CheckedFlag(field, trimmed);
+        case FieldKind::Number: return CheckedNumber(field, trimmed);
+        case FieldKind::Date: return CheckedDate(field, trimmed);
+        case FieldKind::List: return CheckedEntry(field, trimmed);
+        case FieldKind::Flag: return CheckedFlag(field, trimmed);
         case FieldKind::Text:
-        case FieldKind::Reference:
-            break;
+        case FieldKind::Reference: break;
     }
     return std::string(value);
 }

@@ -24,7 +24,8 @@ std::string FromAccountTables()
 
 }  // namespace
 
-std::string SelectAreaRows(const std::string& table, const std::string& dataTable, const std::string& areaTable)
+std::string SelectAreaRows(const std::string& table, const std::string& dataTable,
+                           const std::string& areaTable)
 {
     const bool tablesGiven = !dataTable.empty() && !areaTable.empty();
 
@@ -34,12 +35,20 @@ std::string SelectAreaRows(const std::string& table, const std::string& dataTabl
                ",ia.cbatchia",
                ",wh.cwhcode,wh.cwhname",
                ",inv.cInvStd,inv.cInvAddCode,inv.cinvname",
-               ",case when ia.brdflag=1 then isnull(ia.iquantity,0) else 0 end" " as iinquantity",
-               ",case when ia.brdflag=0 then isnull(ia.iquantity,0) else 0 end" " as ioutquantity",
-               ",case when ia.brdflag=1 then isnull(ia.iprice,0) else 0 end" " as iinprice",
-               ",case when ia.brdflag=0 then isnull(ia.iprice,0) else 0 end" " as ioutprice",
-               ",case when ia.brdflag=0 then isnull(ia.iunitcost,0) else 0 end" " as ioutcost",
-               ",case when ia.brdflag=1 then isnull(ia.iunitcost,0) else 0 end" " as iincost" " into " + table,
+               ",case when ia.brdflag=1 then isnull(ia.iquantity,0) else 0 end"
+               " as iinquantity",
+               ",case when ia.brdflag=0 then isnull(ia.iquantity,0) else 0 end"
+               " as ioutquantity",
+               ",case when ia.brdflag=1 then isnull(ia.iprice,0) else 0 end"
+               " as iinprice",
+               ",case when ia.brdflag=0 then isnull(ia.iprice,0) else 0 end"
+               " as ioutprice",
+               ",case when ia.brdflag=0 then isnull(ia.iunitcost,0) else 0 end"
+               " as ioutcost",
+               ",case when ia.brdflag=1 then isnull(ia.iunitcost,0) else 0 end"
+               " as iincost"
+               " into " +
+                   table,
            }) +
            (tablesGiven ? FromTempTables(dataTable, areaTable) : FromAccountTables());
 }

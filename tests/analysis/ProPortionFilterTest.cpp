@@ -7,21 +7,24 @@ namespace kavelin::test {
 
 TEST(BuildRangeWhere, AddsAConditionForEachEndThatHasAValue)
 {
-    const struct { FakeField field; std::string_view where; } cases[] = {
-        {{"cinvcode", "A", "B"},  " 1=1  And IA_Subsidiary.cinvcode>='A' And IA_Subsidiary.cinvcode<='B'"},
-        {{"cinvcode", "A"},       " 1=1  And IA_Subsidiary.cinvcode>='A'"},
-        {{"cinvcode", "", "B"},   " 1=1  And IA_Subsidiary.cinvcode<='B'"},
+    const struct {
+        FakeField field;
+        std::string_view where;
+    } cases[] = {
+        {{"cinvcode", "A", "B"}, " 1=1  And IA_Subsidiary.cinvcode>='A' And IA_Subsidiary.cinvcode<='B'"},
+        {{"cinvcode", "A"}, " 1=1  And IA_Subsidiary.cinvcode>='A'"},
+        {{"cinvcode", "", "B"}, " 1=1  And IA_Subsidiary.cinvcode<='B'"},
         {{"cwhcode", "01", "02"}, " 1=1  And IA_Subsidiary.cWhCode>='01' And IA_Subsidiary.cWhCode<='02'"},
         {{"cinvccode", "1", "2"}, " 1=1  And  cinvccode>='1' And  cinvccode<='2'"},
         {{"imonth", "2008-01-01", "2008-07-31"},
          " 1=1  and dkeepdate >= '2008-01-01' and dkeepdate <= '2008-07-31'"},
-        {{"cNo", "10", "20"},     " 1=1 "},
-        {{"other", "x", "y"},     " 1=1 "},
-        {{"cinvcode"},            " 1=1 "},
+        {{"cNo", "10", "20"}, " 1=1 "},
+        {{"other", "x", "y"}, " 1=1 "},
+        {{"cinvcode"}, " 1=1 "},
         {{"cinvcode", Value::Null(), Value::Null()}, " 1=1 "},
-        {{"CINVCODE", "A"},       " 1=1  And IA_Subsidiary.cinvcode>='A'"},
-        {{"cWhCode", "O'Neil"},   " 1=1  And IA_Subsidiary.cWhCode>='O'Neil'"},
-        {{"cinvcode", " "},       " 1=1  And IA_Subsidiary.cinvcode>=' '"},
+        {{"CINVCODE", "A"}, " 1=1  And IA_Subsidiary.cinvcode>='A'"},
+        {{"cWhCode", "O'Neil"}, " 1=1  And IA_Subsidiary.cWhCode>='O'Neil'"},
+        {{"cinvcode", " "}, " 1=1  And IA_Subsidiary.cinvcode>=' '"},
     };
     for (const auto& c : cases) {
         RecordingHost host;
@@ -60,7 +63,10 @@ TEST(BuildRangeWhere, StoresTheTokenInEveryItemBeforeItReadsIt)
 
 TEST(BuildRankWhere, CutsByCNoOnlyIfItHasAValue)
 {
-    const struct { std::vector<FakeField> fields; std::string_view where; } cases[] = {
+    const struct {
+        std::vector<FakeField> fields;
+        std::string_view where;
+    } cases[] = {
         {{}, " 1=1 "},
         {{{"cNo"}}, " 1=1 "},
         {{{"cNo", ""}}, " 1=1 "},

@@ -150,7 +150,10 @@ TEST_F(CapitalShare, OfASingleItemIsAHundredWithoutARepair)
         EXPECT_FALSE(statement.sql.starts_with("update"));
 }
 
-TEST_F(CapitalShare, OfAnEmptyLedgerIsATableWithoutRows) { ExpectResult("empty-ledger"); }
+TEST_F(CapitalShare, OfAnEmptyLedgerIsATableWithoutRows)
+{
+    ExpectResult("empty-ledger");
+}
 
 // Counted: 10 without a business type and 20 of an ordinary one. Not counted: direct shipments, voucher type
 // 33, another year, a warehouse that takes no part in costing. No warehouse at all stays: 5.
@@ -191,8 +194,11 @@ TEST_F(CapitalShare, CountsOnlyWhatTheFilterLetsThrough)
     Receipt({.item = "B", .amount = "10"});
     Receipt({.item = "B", .amount = "100", .warehouse = "'02'"});
     Receipt({.item = "C", .amount = "50"});
-    host.SetFilter({{"cinvcode", "A", "C"}, {"cwhcode", "01", "01"}, {"cinvccode", "01", "01"},
-                    {"imonth", "2008-07-01", "2008-07-31"}, {"cNo", ""}});
+    host.SetFilter({{"cinvcode", "A", "C"},
+                    {"cwhcode", "01", "01"},
+                    {"cinvccode", "01", "01"},
+                    {"imonth", "2008-07-01", "2008-07-31"},
+                    {"cNo", ""}});
     ExpectResult("filtered");
 }
 

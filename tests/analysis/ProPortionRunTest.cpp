@@ -16,7 +16,10 @@ namespace {
 const std::string kTotal = "select sum(资金占用额) from ia_ProPortionRpt_temp1";
 const std::string kAmounts = "select (资金占用额) from ia_ProPortionRpt_temp";
 
-Rows Amounts(std::size_t count) { return {{"资金占用额"}, std::vector<std::vector<Value>>(count, {Value(50)})}; }
+Rows Amounts(std::size_t count)
+{
+    return {{"资金占用额"}, std::vector<std::vector<Value>>(count, {Value(50)})};
+}
 
 // A run whose record sets give `total` and `items` rows.
 void Script(RecordingHost& host, const Value& total, std::size_t items)
@@ -42,7 +45,10 @@ std::string ReadOf(int set, const std::string& parameter)
            parameter + "'\n" + name + ".Close\n";
 }
 
-std::string Executed(const std::string& sql) { return "#2.Execute " + ReplaceAll(sql, "\r\n", "⏎") + "\n"; }
+std::string Executed(const std::string& sql)
+{
+    return "#2.Execute " + ReplaceAll(sql, "\r\n", "⏎") + "\n";
+}
 
 // How many statements repaired the shares.
 std::size_t Repairs(const RecordingHost& host)
@@ -177,9 +183,13 @@ TEST(clsProPortion, RunsItsOwnStatementsOnItsOwnConnectionAndReadsSwitchesOnGcnn
 
 TEST(clsProPortion, RepairsOnlySeveralItemsWithATotalOtherThanZero)
 {
-    const struct { Value total; std::size_t items; std::size_t repairs; } cases[] = {
-        {100, 2, 1},   {-100, 2, 1},  {100, 3, 1}, {*Decimal::FromText("0.01"), 2, 1},
-        {100, 1, 0},   {100, 0, 0},   {0, 2, 0},   {*Decimal::FromText("0.00"), 2, 0},
+    const struct {
+        Value total;
+        std::size_t items;
+        std::size_t repairs;
+    } cases[] = {
+        {100, 2, 1},           {-100, 2, 1},          {100, 3, 1}, {*Decimal::FromText("0.01"), 2, 1},
+        {100, 1, 0},           {100, 0, 0},           {0, 2, 0},   {*Decimal::FromText("0.00"), 2, 0},
         {Value::Null(), 0, 0}, {Value::Null(), 2, 0},
     };
     for (const auto& c : cases) {
@@ -240,7 +250,12 @@ TEST(clsProPortion, StopsAtEachStatementThatFailsWithBothConnectionsOpen)
 // without a word, that of the first is an error of the call.
 TEST(clsProPortion, LosesARestrictionSilentlyWhenTheAuthorisationFails)
 {
-    const struct { std::size_t statement; bool fails; bool warehouses; bool items; } cases[] = {
+    const struct {
+        std::size_t statement;
+        bool fails;
+        bool warehouses;
+        bool items;
+    } cases[] = {
         {2, true, false, false}, {3, false, false, true}, {4, true, false, false}, {5, false, true, false}};
     for (const auto& c : cases) {
         RecordingHost host;

@@ -89,8 +89,9 @@ TEST(PublicClasses, OfTheFilterDialogHaveTheCallbacksInOrder)
             std::string names;
             for (const Member& member : publicClass.members)
                 names += std::string(member.name) + " ";
-            EXPECT_EQ(names, "CallBack_FilterInit CallBack_ValueChange CallBack_FilterClick "
-                             "CallBack_ReportViewChange CallBack_ReportViewInit InitAccMonth ");
+            EXPECT_EQ(names,
+                      "CallBack_FilterInit CallBack_ValueChange CallBack_FilterClick "
+                      "CallBack_ReportViewChange CallBack_ReportViewInit InitAccMonth ");
         }
         if (publicClass.name == "clsSFCSumCon") {
             ASSERT_EQ(publicClass.members.size(), 26U);

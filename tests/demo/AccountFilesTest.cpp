@@ -196,13 +196,12 @@ TEST_F(AccountFiles, ComesBackTheSameAfterExportAndLoad)
         "C2,\"two\nlines\",\"\"\r\n"
         "C3,,\"NULL\"\r\n";
     Write("Customer.csv", odd);
-    Write(
-        "IA_Subsidiary.csv",
-        "iYear,iMonth,dVouDate,dKeepDate,cAccounter,cVouType,bRdFlag,cInvCode,iAInQuantity,"
-        "iAInPrice,cDefine7\n"
-        "2008,1,2008-01-02,2008-01-02 23:59:59.997,x,01,1,A,0.1,922337203685477.5807,"
-        "-1.7976931348623157e308\n"
-        "2008,1,1753-01-01,9999-12-31,x,01,1,A,3.0000000000000004,-0.0001,1e-300\n");
+    Write("IA_Subsidiary.csv",
+          "iYear,iMonth,dVouDate,dKeepDate,cAccounter,cVouType,bRdFlag,cInvCode,iAInQuantity,"
+          "iAInPrice,cDefine7\n"
+          "2008,1,2008-01-02,2008-01-02 23:59:59.997,x,01,1,A,0.1,922337203685477.5807,"
+          "-1.7976931348623157e308\n"
+          "2008,1,1753-01-01,9999-12-31,x,01,1,A,3.0000000000000004,-0.0001,1e-300\n");
     Load();
 
     ExportFolder(account, output);

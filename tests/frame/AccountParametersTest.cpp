@@ -40,14 +40,17 @@ TEST(GetAccInfoValue, OpensReadsAndClosesOneForwardOnlyRecordSet)
 
 TEST(GetAccInfoValue, FallsBackToTheDefaultAndThenToTheEmptyText)
 {
-    const struct { const char* what; Value value, byDefault, given; } cases[] = {
-        {"a value",                      "1",           "2",           "1"},
-        {"an empty value",               "",            "2",           "2"},
-        {"a null value",                 Value::Null(), "2",           "2"},
-        {"both null",                    Value::Null(), Value::Null(), ""},
-        {"an empty value, default null", "",            Value::Null(), ""},
-        {"both empty",                   "",            "",            ""},
-        {"a value of blanks",            "  ",          "2",           "  "},
+    const struct {
+        const char* what;
+        Value value, byDefault, given;
+    } cases[] = {
+        {"a value", "1", "2", "1"},
+        {"an empty value", "", "2", "2"},
+        {"a null value", Value::Null(), "2", "2"},
+        {"both null", Value::Null(), Value::Null(), ""},
+        {"an empty value, default null", "", Value::Null(), ""},
+        {"both empty", "", "", ""},
+        {"a value of blanks", "  ", "2", "  "},
     };
     for (const auto& c : cases) {
         RecordingHost host;
@@ -94,9 +97,13 @@ TEST(GetAccInfoValue, LetsAFailedQueryThrough)
 
 TEST(GetSysStartMonth, IsTheMonthOfTheParameterNamedAfterTheModule)
 {
-    const struct { Value value; int month; } cases[] = {
-        {"2008-07-31", 7},   {" 2008-12-01 ", 12}, {"2008年1月1日", 1}, {Day(2008, 3, 1), 3},
-        {Value::Null(), 0},  {"", 0},              {"   ", 0},
+    const struct {
+        Value value;
+        int month;
+    } cases[] = {
+        {"2008-07-31", 7},    {" 2008-12-01 ", 12}, {"2008年1月1日", 1},
+        {Day(2008, 3, 1), 3}, {Value::Null(), 0},   {"", 0},
+        {"   ", 0},
     };
     for (const auto& c : cases) {
         RecordingHost host;
@@ -142,14 +149,14 @@ TEST(GetIAStartMonth, ShowsAMessageForAValueThatIsNoDateAndGivesZero)
     host.Answers().texts = {{"Orvo.IA.CHHSSQL.06609", "start date "},
                             {"Orvo.IA.CHHSSQL.06610", " is no date"}};
     EXPECT_EQ(GetIAStartMonth(), "0");
-    EXPECT_EQ(host.Events().Text(),
-              "#1.OpenRecordset @1 location=3 type=0 lock=1 " + kStartDate + "\n"
-              "@1.Field cvalue\n"
-              "@1.Close\n"
-              "new ResourceObject\n"
-              "ResourceObject.GetResString Orvo.IA.CHHSSQL.06609\n"
-              "ResourceObject.GetResString Orvo.IA.CHHSSQL.06610\n"
-              "ResourceObject.ShowMessage start date abc is no date, 64\n");
+    EXPECT_EQ(host.Events().Text(), "#1.OpenRecordset @1 location=3 type=0 lock=1 " + kStartDate +
+                                        "\n"
+                                        "@1.Field cvalue\n"
+                                        "@1.Close\n"
+                                        "new ResourceObject\n"
+                                        "ResourceObject.GetResString Orvo.IA.CHHSSQL.06609\n"
+                                        "ResourceObject.GetResString Orvo.IA.CHHSSQL.06610\n"
+                                        "ResourceObject.ShowMessage start date abc is no date, 64\n");
 }
 
 class GetPeriodDatesTest : public testing::Test {

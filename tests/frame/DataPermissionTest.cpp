@@ -51,7 +51,13 @@ class DataPermission : public testing::Test {
 
 TEST_F(DataPermission, ClauseHasTheWordsOfItsKind)
 {
-    const struct { Kind kind; Value on; const char* list; bool noCostLimit; const char* clause; } cases[] = {
+    const struct {
+        Kind kind;
+        Value on;
+        const char* list;
+        bool noCostLimit;
+        const char* clause;
+    } cases[] = {
         // The list stands in the clause as the service gave it.
         {kWarehouse, "TRUE", "'01','02'", false,
          " ((F IN (Select cWhCode From Warehouse Where bInCost = 1) and F IN ('01','02')) or F is null)"},
@@ -234,7 +240,8 @@ TEST_F(DataPermission, OfAListIsNotAskedForWhileTheSwitchIsOff)
 
 TEST_F(DataPermission, PiecesOfAReportAreJoinedByAndInTheOrderOfItsColumns)
 {
-    constexpr PermissionColumn kColumns[] = {{"w", "仓库"}, {"w2", "仓库", true}, {"d", "部门"}, {" i", "存货"}};
+    constexpr PermissionColumn kColumns[] = {
+        {"w", "仓库"}, {"w2", "仓库", true}, {"d", "部门"}, {" i", "存货"}};
     Switch(kInventory, "TRUE");
     host.Answers().lists = {{"Inventory", "'A'"}};
     EXPECT_EQ(BuildPermissionClauses(kColumns),

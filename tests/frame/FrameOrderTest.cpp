@@ -55,7 +55,7 @@ struct FrameCase {
     std::string_view className;
     FrameEntry entry;
     Binding binding;
-    Value success, failure;  // of MoveDataDetail
+    Value success, failure;   // of MoveDataDetail
     std::string_view before;  // MoveDataDetail
     std::string_view closes;  // after a success
     std::string_view left;    // after a success
@@ -216,8 +216,9 @@ TEST(Frame, StopsAtAnyStepThatFails)
             host.Events().FailAt(step);
             EXPECT_THROW(RunEntry(c, host, context, c.success), PlannedFailure)
                 << NameOf(c) << " step " << step;
-            EXPECT_EQ(host.Events().Lines(), std::vector<std::string>(steps.begin(), steps.begin() +
-                                                                          static_cast<std::ptrdiff_t>(step)))
+            EXPECT_EQ(
+                host.Events().Lines(),
+                std::vector<std::string>(steps.begin(), steps.begin() + static_cast<std::ptrdiff_t>(step)))
                 << NameOf(c);
         }
     }

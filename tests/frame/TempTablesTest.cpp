@@ -26,7 +26,9 @@ TEST(CreateGuidText, DeletesTheCharactersToRemoveFromTheDigitsToo)
 {
     RecordingHost host;
     host.Answers().guid = kGuid;
-    EXPECT_EQ(CreateGuidText("F0"), "69619" "8B86D11B42DC4C964");
+    EXPECT_EQ(CreateGuidText("F0"),
+              "69619"
+              "8B86D11B42DC4C964");
     EXPECT_EQ(CreateGuidText("-{}x仓"), "6F9619FF8B86D011B42D00C04FC964FF");
     EXPECT_EQ(CreateGuidText("0123456789ABCDEF"), "");
     EXPECT_EQ(CreateGuidText("f"), "6F9619FF8B86D011B42D00C04FC964FF");
@@ -35,8 +37,10 @@ TEST(CreateGuidText, DeletesTheCharactersToRemoveFromTheDigitsToo)
 TEST(GetClientSuffix, IsTheNumberOfANewObjectAsDigits)
 {
     RecordingHost host;
-    const struct { Value number; std::string_view suffix; } cases[] = {
-        {7, "7"}, {" 12 ", "12"}, {2.5, "2"}, {-3, "-3"}, {2147483647, "2147483647"}};
+    const struct {
+        Value number;
+        std::string_view suffix;
+    } cases[] = {{7, "7"}, {" 12 ", "12"}, {2.5, "2"}, {-3, "-3"}, {2147483647, "2147483647"}};
     for (const auto& c : cases) {
         host.Answers().clientNumber = c.number;
         EXPECT_EQ(GetClientSuffix(), c.suffix);

@@ -84,7 +84,10 @@ TEST(ReplaceAll, DoesNotLookAtWhatItPutIn)
 
 TEST(NextCharacter, GivesTheReplacementCharacterForABadByteAndMovesByOne)
 {
-    const struct { std::string_view text; char32_t character; std::size_t length;
+    const struct {
+        std::string_view text;
+        char32_t character;
+        std::size_t length;
     } cases[] = {
         {"a", U'a', 1},
         {"仓", U'仓', 3},

@@ -18,7 +18,10 @@ DateTime Moment(int year, unsigned month, unsigned day, int hour = 0, int minute
            hours(hour) + minutes(minute) + seconds(second);
 }
 
-Value Exact(std::string_view text) { return *Decimal::FromText(text); }
+Value Exact(std::string_view text)
+{
+    return *Decimal::FromText(text);
+}
 
 }  // namespace
 
@@ -41,7 +44,10 @@ TEST(Value, OfATextLiteralIsTextAndNotABoolean)
 
 TEST(ToText, GivesTheDefaultTextOfEachType)
 {
-    const struct { Value value; std::string_view text; } cases[] = {
+    const struct {
+        Value value;
+        std::string_view text;
+    } cases[] = {
         {Value(), ""},
         {"", ""},
         {" as it is ", " as it is "},
@@ -74,12 +80,29 @@ TEST(ToText, GivesTheDefaultTextOfEachType)
 
 TEST(ToDouble, TakesATextThatIsANumberAsAWhole)
 {
-    const struct { Value value; double number; } cases[] = {
-        {Value(), 0},       {true, -1},          {false, 0},        {7, 7},
-        {Exact("1.25"), 1.25}, {"12", 12},       {" 12.5 ", 12.5},  {"-3", -3},
-        {"+3", 3},          {".5", 0.5},         {"5.", 5},         {"1e3", 1000},
-        {"1d3", 1000},      {"1E-2", 0.01},      {"1,234", 1234},   {"1,234.5", 1234.5},
-        {Moment(1899, 12, 31), 1}, {Moment(1900, 1, 1, 12), 2.5},   {Moment(1899, 12, 29, 6), -1.25},
+    const struct {
+        Value value;
+        double number;
+    } cases[] = {
+        {Value(), 0},
+        {true, -1},
+        {false, 0},
+        {7, 7},
+        {Exact("1.25"), 1.25},
+        {"12", 12},
+        {" 12.5 ", 12.5},
+        {"-3", -3},
+        {"+3", 3},
+        {".5", 0.5},
+        {"5.", 5},
+        {"1e3", 1000},
+        {"1d3", 1000},
+        {"1E-2", 0.01},
+        {"1,234", 1234},
+        {"1,234.5", 1234.5},
+        {Moment(1899, 12, 31), 1},
+        {Moment(1900, 1, 1, 12), 2.5},
+        {Moment(1899, 12, 29, 6), -1.25},
     };
     for (const auto& c : cases)
         EXPECT_DOUBLE_EQ(ToDouble(c.value), c.number) << ToText(c.value);
@@ -87,15 +110,18 @@ TEST(ToDouble, TakesATextThatIsANumberAsAWhole)
 
 TEST(ToDouble, RefusesNullAndATextThatIsNoNumber)
 {
-    const Value cases[] = {Value::Null(), "", " ", "abc", "12abc", "1.5.2", "1e", "+-5", "++5", "--5",
-                           "1 2",         "inf", "nan", "0x10", ",", "12,5.0,1", "2008-07-31"};
+    const Value cases[] = {Value::Null(), "",     " ",   "abc",      "12abc",     "1.5.2",
+                           "1e",          "+-5",  "++5", "--5",      "1 2",       "inf",
+                           "nan",         "0x10", ",",   "12,5.0,1", "2008-07-31"};
     for (const Value& value : cases)
         EXPECT_THROW(ToDouble(value), ConversionError) << (value.IsNull() ? "null" : ToText(value));
 }
 
 TEST(ToInt32, RoundsHalvesToTheEvenNumber)
 {
-    const struct { Value value; std::int32_t number;
+    const struct {
+        Value value;
+        std::int32_t number;
     } cases[] = {
         {0.5, 0},   {1.5, 2},   {2.5, 2},          {3.5, 4},   {-0.5, 0},
         {-1.5, -2}, {-2.5, -2}, {2.4, 2},          {2.6, 3},   {2.5000001, 3},
@@ -137,9 +163,10 @@ TEST(ToBoolean, TakesNumbersAndTheTwoWords)
 
 TEST(IsDate, KnowsYearMonthAndDayInThisOrder)
 {
-    for (const char* text : {"2008-07-31", "2008-7-1", "2008/7/31", "2008.07.31", "2008年7月31日", "2008年07月01日",
-                             " 2008-07-31 ", "2008-07-31 14:30", "2008-07-31 14:30:59", "2008-07-31   9:5",
-                             "2008年7月31日 9:05", "2008-02-29", "14:30", "0:00:00", "1899-12-30", "9999-12-31"})
+    for (const char* text :
+         {"2008-07-31", "2008-7-1", "2008/7/31", "2008.07.31", "2008年7月31日", "2008年07月01日",
+          " 2008-07-31 ", "2008-07-31 14:30", "2008-07-31 14:30:59", "2008-07-31   9:5", "2008年7月31日 9:05",
+          "2008-02-29", "14:30", "0:00:00", "1899-12-30", "9999-12-31"})
         EXPECT_TRUE(IsDate(text)) << text;
     for (const char* text : {"",
                              " ",
@@ -173,7 +200,10 @@ TEST(IsDate, KnowsYearMonthAndDayInThisOrder)
 
 TEST(ToDate, ReadsWhatIsDateTellsAndDayNumbers)
 {
-    const struct { Value value; DateTime date; } cases[] = {
+    const struct {
+        Value value;
+        DateTime date;
+    } cases[] = {
         {"2008-07-31", Moment(2008, 7, 31)},
         {"2008年7月31日", Moment(2008, 7, 31)},
         {"2008/7/31 14:30", Moment(2008, 7, 31, 14, 30)},
@@ -196,7 +226,9 @@ TEST(ToDate, ReadsWhatIsDateTellsAndDayNumbers)
 
 TEST(LeadingNumber, StopsAtTheFirstCharacterThatIsNoPartOfANumber)
 {
-    const struct { std::string_view text; double number;
+    const struct {
+        std::string_view text;
+        double number;
     } cases[] = {
         {"", 0},       {"abc", 0},       {"12abc", 12}, {"1.5.2", 1.5},  {" 1 2 3 x", 123}, {"-5", -5},
         {"- 5", -5},   {"+5", 5},        {"+-5", -5},   {".5kg", 0.5},   {".", 0},          {"-", 0},

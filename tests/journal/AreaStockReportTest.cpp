@@ -52,14 +52,19 @@ TEST(clsAreaStockReport, ReadsItsArgumentsRunsOneStatementAndCloses)
               "Args.Item IADataTable\n"
               "e.Args\n"
               "Args.Item IAAreeTable\n"
-              "#1.Execute " + ReplaceAll(SelectAreaRows("tempdb..result", "rows", "area"), "\r\n", "⏎") + "\n"
-              "#1.Close\n");
+              "#1.Execute " +
+                  ReplaceAll(SelectAreaRows("tempdb..result", "rows", "area"), "\r\n", "⏎") +
+                  "\n"
+                  "#1.Close\n");
     EXPECT_EQ(ConnectionsLeft(), "gcnnAccount=closed gcnnSystem=nothing gobjLogin=set");
 }
 
 TEST(clsAreaStockReport, SendsTheStatementsOfItsScenarios)
 {
-    const struct { const char* name; Args args; } cases[] = {
+    const struct {
+        const char* name;
+        Args args;
+    } cases[] = {
         {"both-tables", {{"IADataTable", "IA_Rows"}, {"IAAreeTable", "IA_Area"}}},
         {"account-tables", {}},
         {"quote-and-bracket", {{"IADataTable", "[IA Rows'1]"}, {"IAAreeTable", "IA]Area'"}}},

@@ -20,8 +20,9 @@ class AreaTable : public testing::Test {
   protected:
     AreaTable()
     {
-        host.Run("create table inventory (cinvcode nvarchar(60) not null, cinvname nvarchar(255) null,"
-                 " cInvAddCode nvarchar(255) null, cInvStd nvarchar(255) null)");
+        host.Run(
+            "create table inventory (cinvcode nvarchar(60) not null, cinvname nvarchar(255) null,"
+            " cInvAddCode nvarchar(255) null, cInvStd nvarchar(255) null)");
         host.Run("create table warehouse (cwhcode nvarchar(10) not null, cwhname nvarchar(60) null)");
         host.Run("insert into inventory values ('A', N'钢板', 'A-1', '2mm')");
         host.Run("insert into inventory values ('B', N'铜线', null, null)");

@@ -13,9 +13,15 @@ void EventLog::Add(const std::string& line)
     throw PlannedFailure("planned failure at: " + line);
 }
 
-void EventLog::FailAt(std::size_t number) { lngFailAt = lstLines.size() + number; }
+void EventLog::FailAt(std::size_t number)
+{
+    lngFailAt = lstLines.size() + number;
+}
 
-void EventLog::FailAt(const std::string& line) { strFailAt = line; }
+void EventLog::FailAt(const std::string& line)
+{
+    strFailAt = line;
+}
 
 std::string EventLog::Text() const
 {

@@ -158,12 +158,30 @@ class LateArgs : public LateBound {
 
 }  // namespace
 
-std::string RecordingLogin::VosDbName() { return objEvents->Add("Login.VosDbName"), objAnswers->vosDbName; }
-std::string RecordingLogin::AccountId() { return objEvents->Add("Login.AccountId"), objAnswers->accountId; }
-std::string RecordingLogin::Year() { return objEvents->Add("Login.Year"), objAnswers->year; }
-int RecordingLogin::Month() { return objEvents->Add("Login.Month"), 7; }
-std::string RecordingLogin::Password() { return objEvents->Add("Login.Password"), objAnswers->password; }
-std::string RecordingLogin::UserId() { return objEvents->Add("Login.UserId"), objAnswers->userId; }
+std::string RecordingLogin::VosDbName()
+{
+    return objEvents->Add("Login.VosDbName"), objAnswers->vosDbName;
+}
+std::string RecordingLogin::AccountId()
+{
+    return objEvents->Add("Login.AccountId"), objAnswers->accountId;
+}
+std::string RecordingLogin::Year()
+{
+    return objEvents->Add("Login.Year"), objAnswers->year;
+}
+int RecordingLogin::Month()
+{
+    return objEvents->Add("Login.Month"), 7;
+}
+std::string RecordingLogin::Password()
+{
+    return objEvents->Add("Login.Password"), objAnswers->password;
+}
+std::string RecordingLogin::UserId()
+{
+    return objEvents->Add("Login.UserId"), objAnswers->userId;
+}
 std::string RecordingLogin::ConnectionText()
 {
     return objEvents->Add("Login.ConnectionText"), objAnswers->connectionText;
@@ -211,7 +229,10 @@ std::shared_ptr<NamedValues> EarlyArguments::Args()
     return std::make_shared<EarlyArgs>(objParts.events, objParts.answers);
 }
 
-std::string EarlyArguments::LangID() { return objParts.events->Add("e.LangID"), objParts.answers->langId; }
+std::string EarlyArguments::LangID()
+{
+    return objParts.events->Add("e.LangID"), objParts.answers->langId;
+}
 
 Variant EarlyArguments::Get(std::string_view member)
 {

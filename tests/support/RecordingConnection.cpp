@@ -55,7 +55,10 @@ class RecordingRecordset : public Recordset {
     std::string strName;
 };
 
-std::string OnOneLine(const std::string& sql) { return ReplaceAll(sql, "\r\n", "⏎"); }
+std::string OnOneLine(const std::string& sql)
+{
+    return ReplaceAll(sql, "\r\n", "⏎");
+}
 
 }  // namespace
 
@@ -127,9 +130,10 @@ void RecordingConnection::FailIfPlanned(const std::string& sql) const
     if (failure != objScript->failures.end())
         throw DatabaseError({.strMessage = failure->second, .strSqlState = {}, .strStatement = sql});
     if (objScript->sent.size() == objScript->failAtStatement)
-        throw DatabaseError({.strMessage = "planned failure of statement " +
-                                           std::to_string(objScript->failAtStatement),
-                             .strSqlState = {}, .strStatement = sql});
+        throw DatabaseError(
+            {.strMessage = "planned failure of statement " + std::to_string(objScript->failAtStatement),
+             .strSqlState = {},
+             .strStatement = sql});
     if (objState == ConnectionState::Closed)
         throw DatabaseError(
             {.strMessage = "the connection is closed", .strSqlState = {}, .strStatement = sql});

@@ -11,7 +11,10 @@ RecordingHost::RecordingHost() : objReportManager(std::make_shared<PlainObject>(
     UsePlatform(std::make_shared<RecordingPlatform>(objEvents, objScript, objAnswers));
 }
 
-RecordingHost::~RecordingHost() { UsePlatform(nullptr); }
+RecordingHost::~RecordingHost()
+{
+    UsePlatform(nullptr);
+}
 
 void RecordingHost::SetFilter(const std::vector<FakeField>& fields)
 {

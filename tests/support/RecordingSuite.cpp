@@ -191,7 +191,10 @@ std::shared_ptr<SettingsStore> RecordingPlatform::CreateSettingsStore()
     throw Error("This host has no settings.");
 }
 
-std::shared_ptr<XmlDocument> RecordingPlatform::CreateXmlDocument() { throw Error("This host has no XML."); }
+std::shared_ptr<XmlDocument> RecordingPlatform::CreateXmlDocument()
+{
+    throw Error("This host has no XML.");
+}
 
 Guid RecordingPlatform::CreateGuid()
 {

@@ -23,7 +23,10 @@ std::int64_t ScriptedRecordset::RecordCount() const
     return objType == CursorType::ForwardOnly ? -1 : static_cast<std::int64_t>(objRows.rows.size());
 }
 
-std::string ScriptedRecordset::FieldType(int /*field*/) const { return "nvarchar(max)"; }
+std::string ScriptedRecordset::FieldType(int /*field*/) const
+{
+    return "nvarchar(max)";
+}
 
 Value ScriptedRecordset::Field(int field) const
 {

@@ -4,11 +4,11 @@
 
 #include <nlohmann/json.hpp>
 
-#include <cstdlib>
 #include <fcntl.h>
+#include <unistd.h>
+#include <cstdlib>
 #include <filesystem>
 #include <stdexcept>
-#include <unistd.h>
 
 namespace kavelin::test {
 

@@ -3,15 +3,15 @@
 #include "support/GoldenFile.h"
 #include "support/RecordingHost.h"
 
-#include <gtest/gtest.h>
 #include <gtest/gtest-spi.h>
+#include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <unistd.h>
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
 #include <sstream>
-#include <unistd.h>
 
 namespace kavelin::test {
 

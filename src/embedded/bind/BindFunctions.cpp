@@ -116,14 +116,14 @@ struct KnownFunction {
 };
 
 constexpr KnownFunction kFunctions[] = {
-    {"isnull",          false, 2, MakeIsNull                            },
-    {"left",            false, 2, MakeLeft                              },
-    {"year",            false, 1, MakeDatePart<BoundFunctionKind::Year> },
-    {"month",           false, 1, MakeDatePart<BoundFunctionKind::Month>},
-    {"day",             false, 1, MakeDatePart<BoundFunctionKind::Day>  },
-    {"abs",             false, 1, MakeAbs                               },
-    {"object_id",       false, 1, MakeObjectId                          },
-    {"udf_getlocaleid", true,  0, MakeLocaleId                          },
+    {"isnull", false, 2, MakeIsNull},
+    {"left", false, 2, MakeLeft},
+    {"year", false, 1, MakeDatePart<BoundFunctionKind::Year>},
+    {"month", false, 1, MakeDatePart<BoundFunctionKind::Month>},
+    {"day", false, 1, MakeDatePart<BoundFunctionKind::Day>},
+    {"abs", false, 1, MakeAbs},
+    {"object_id", false, 1, MakeObjectId},
+    {"udf_getlocaleid", true, 0, MakeLocaleId},
 };
 
 // --- aggregates --------------------------------------------------------------------------------
@@ -134,11 +134,8 @@ struct KnownAggregate {
 };
 
 constexpr KnownAggregate kAggregates[] = {
-    {"sum",   AggregateKind::Sum  },
-    {"avg",   AggregateKind::Avg  },
-    {"min",   AggregateKind::Min  },
-    {"max",   AggregateKind::Max  },
-    {"count", AggregateKind::Count},
+    {"sum", AggregateKind::Sum}, {"avg", AggregateKind::Avg},     {"min", AggregateKind::Min},
+    {"max", AggregateKind::Max}, {"count", AggregateKind::Count},
 };
 
 void CheckAggregateMayStand(const Scope& scope, Place place)

@@ -226,8 +226,9 @@ struct BoundSelectInto {
 struct BoundInsert {
     std::string duckName;
     std::vector<std::string> columns;
-    std::optional<std::string> identityColumn;  // numbered by the order of the query, going on from the highest
-    BoundQueryPtr query;                        // null for values
+    std::optional<std::string>
+        identityColumn;   // numbered by the order of the query, going on from the highest
+    BoundQueryPtr query;  // null for values
     std::vector<std::vector<BoundExprPtr>> values;
     std::optional<ObjectInfo> weakened;  // the table, if the new values take facts away from its columns
 };

@@ -92,10 +92,10 @@ struct IntegerRange {
 };
 
 constexpr IntegerRange kRanges[] = {
-    {TypeKind::Tinyint,  0,           255,        244,  " INT1 column. Use a larger integer column."},
-    {TypeKind::Smallint, -32768,      32767,      244,  " INT2 column. Use a larger integer column."},
-    {TypeKind::Int,      -2147483648, 2147483647, 248,  " int column."                              },
-    {TypeKind::Bigint,   INT64_MIN,   INT64_MAX,  8115, " bigint column."                           },
+    {TypeKind::Tinyint, 0, 255, 244, " INT1 column. Use a larger integer column."},
+    {TypeKind::Smallint, -32768, 32767, 244, " INT2 column. Use a larger integer column."},
+    {TypeKind::Int, -2147483648, 2147483647, 248, " int column."},
+    {TypeKind::Bigint, INT64_MIN, INT64_MAX, 8115, " bigint column."},
 };
 
 using Read = ReadLiteral;
@@ -177,8 +177,9 @@ Read ReadMoney(std::string_view text)
         return "0";
     const auto plain = ReadPlain(digits);
     if (!plain)
-        return LiteralError{235, "Cannot convert a char value to money. The char value has incorrect "
-                                 "syntax."};
+        return LiteralError{235,
+                            "Cannot convert a char value to money. The char value has incorrect "
+                            "syntax."};
     const Plain rounded = Rounded(*plain, 4);
     if (rounded.whole.size() > 15)
         return LiteralError{8115, "Arithmetic overflow error converting expression to data type money."};

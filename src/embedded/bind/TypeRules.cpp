@@ -22,6 +22,7 @@ struct NamedType {
     Arguments arguments;
 };
 
+// clang-format off
 constexpr NamedType kTypes[] = {
     {"nvarchar",      TypeKind::Nvarchar, Arguments::Length   },
     {"varchar",       TypeKind::Varchar,  Arguments::Length   },
@@ -40,6 +41,7 @@ constexpr NamedType kTypes[] = {
     {"datetime",      TypeKind::Datetime, Arguments::None     },
     {"smalldatetime", TypeKind::Datetime, Arguments::None     },
 };
+// clang-format on
 
 SqlType LengthOf(const TypeName& name, TypeKind kind, TypeUse use)
 {
@@ -48,8 +50,7 @@ SqlType LengthOf(const TypeName& name, TypeKind kind, TypeUse use)
     if (length == kMaxLength)
         return {kind, kMaxLength, 0, 0};
     if (length < 1)
-        throw SqlError(1001, "Length or precision " + std::to_string(length) + " is invalid.",
-                       name.place);
+        throw SqlError(1001, "Length or precision " + std::to_string(length) + " is invalid.", name.place);
     if (length > longest)
         throw SqlError(131,
                        "The size (" + std::to_string(length) + ") given to the type '" + name.name +
@@ -64,9 +65,7 @@ SqlType PrecisionOf(const TypeName& name)
     const int precision = name.first.value_or(18);
     const int scale = name.second.value_or(0);
     if (precision < 1)
-        throw SqlError(1001,
-                       "Length or precision " + std::to_string(precision) + " is invalid.",
-                       name.place);
+        throw SqlError(1001, "Length or precision " + std::to_string(precision) + " is invalid.", name.place);
     if (precision > kMaxPrecision)
         throw SqlError(2750,
                        "Specified column precision " + std::to_string(precision) +

@@ -80,20 +80,11 @@ void AppendField(std::string& line, std::string_view field)
 {
     for (const char c : field) {
         switch (c) {
-            case '\\':
-                line += "\\\\";
-                break;
-            case '|':
-                line += "\\|";
-                break;
-            case '\n':
-                line += "\\n";
-                break;
-            case '\r':
-                line += "\\r";
-                break;
-            default:
-                line += c;
+            case '\\': line += "\\\\"; break;
+            case '|': line += "\\|"; break;
+            case '\n': line += "\\n"; break;
+            case '\r': line += "\\r"; break;
+            default: line += c;
         }
     }
 }

@@ -53,14 +53,10 @@ std::string DuckNameIn(std::string_view database, std::string_view name)
 std::string_view HomeOfNew(Database database)
 {
     switch (database) {
-        case Database::Account:
-            return kWorkName;
-        case Database::System:
-            return kSystemName;
-        case Database::Tempdb:
-            return kTempdbName;
-        case Database::Connection:
-            break;
+        case Database::Account: return kWorkName;
+        case Database::System: return kSystemName;
+        case Database::Tempdb: return kTempdbName;
+        case Database::Connection: break;
     }
     return "temp";
 }

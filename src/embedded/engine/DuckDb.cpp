@@ -152,33 +152,24 @@ Value Result::Get(std::int64_t row, int column)
                                    : Value(static_cast<std::int64_t>(value));
     };
     switch (description.type) {
-        case DUCKDB_TYPE_BOOLEAN:
-            return Value(static_cast<const bool*>(data)[index]);
-        case DUCKDB_TYPE_TINYINT:
-            return integer(static_cast<const std::int8_t*>(data)[index]);
-        case DUCKDB_TYPE_UTINYINT:
-            return integer(static_cast<const std::uint8_t*>(data)[index]);
-        case DUCKDB_TYPE_SMALLINT:
-            return integer(static_cast<const std::int16_t*>(data)[index]);
-        case DUCKDB_TYPE_INTEGER:
-            return integer(static_cast<const std::int32_t*>(data)[index]);
-        case DUCKDB_TYPE_BIGINT:
-            return integer(static_cast<const std::int64_t*>(data)[index]);
+        case DUCKDB_TYPE_BOOLEAN: return Value(static_cast<const bool*>(data)[index]);
+        case DUCKDB_TYPE_TINYINT: return integer(static_cast<const std::int8_t*>(data)[index]);
+        case DUCKDB_TYPE_UTINYINT: return integer(static_cast<const std::uint8_t*>(data)[index]);
+        case DUCKDB_TYPE_SMALLINT: return integer(static_cast<const std::int16_t*>(data)[index]);
+        case DUCKDB_TYPE_INTEGER: return integer(static_cast<const std::int32_t*>(data)[index]);
+        case DUCKDB_TYPE_BIGINT: return integer(static_cast<const std::int64_t*>(data)[index]);
         case DUCKDB_TYPE_HUGEINT:
             return Value(
                 Decimal(ToInt128(static_cast<const duckdb_hugeint*>(data)[index]), description.scale));
-        case DUCKDB_TYPE_FLOAT:
-            return Value(static_cast<double>(static_cast<const float*>(data)[index]));
-        case DUCKDB_TYPE_DOUBLE:
-            return Value(static_cast<const double*>(data)[index]);
+        case DUCKDB_TYPE_FLOAT: return Value(static_cast<double>(static_cast<const float*>(data)[index]));
+        case DUCKDB_TYPE_DOUBLE: return Value(static_cast<const double*>(data)[index]);
         case DUCKDB_TYPE_TIMESTAMP:
             return Value(ToDateTime(static_cast<const duckdb_timestamp*>(data)[index].micros));
         case DUCKDB_TYPE_VARCHAR: {
             auto text = static_cast<const duckdb_string_t*>(data)[index];
             return Value(std::string(duckdb_string_t_data(&text), duckdb_string_t_length(text)));
         }
-        case DUCKDB_TYPE_SQLNULL:
-            return Value::Null();
+        case DUCKDB_TYPE_SQLNULL: return Value::Null();
         default:
             throw DuckError("Column " + std::to_string(column) +
                             " of the result has a type without a value.");

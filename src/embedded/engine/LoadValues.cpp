@@ -160,16 +160,24 @@ bool AsBit(const Value& value, const SqlType& type)
     return ToDouble(value) != 0;
 }
 
+template <class Number>
+Number NumberIn(const std::string& text, const Value& value, const SqlType& type)
+{
+    const std::string read = ReadAs(text, type);
+    Number number{};
+    const auto [end, error] = std::from_chars(read.data(), read.data() + read.size(), number);
+    if (error != std::errc{} || end != read.data() + read.size())
+        RefuseType(value, type);
+    return number;
+}
+
 std::int64_t AsInteger(const Value& value, const SqlType& type)
 {
     std::int64_t number = 0;
     if (const auto* integer = value.As<std::int64_t>()) {
         number = *integer;
     } else if (const auto* text = value.As<std::string>()) {
-        const std::string read = ReadAs(*text, type);
-        const auto [end, error] = std::from_chars(read.data(), read.data() + read.size(), number);
-        if (error != std::errc{} || end != read.data() + read.size())
-            RefuseType(value, type);
+        number = NumberIn<decltype(number)>(*text, value, type);
     } else if (const bool* bit = value.As<bool>()) {
         number = *bit ? 1 : 0;
     } else if (value.As<DateTime>()) {
@@ -202,10 +210,7 @@ double AsFloat(const Value& value, const SqlType& type)
     if (const double* real = value.As<double>()) {
         number = *real;
     } else if (const auto* text = value.As<std::string>()) {
-        const std::string read = ReadAs(*text, type);
-        const auto [end, error] = std::from_chars(read.data(), read.data() + read.size(), number);
-        if (error != std::errc{} || end != read.data() + read.size())
-            RefuseType(value, type);
+        number = NumberIn<decltype(number)>(*text, value, type);
     } else if (const bool* bit = value.As<bool>()) {
         number = *bit ? 1 : 0;
     } else if (value.As<DateTime>()) {

@@ -92,24 +92,15 @@ void Store(void* data, idx_t row, T value)
 void StoreInteger(void* data, duckdb_type storage, idx_t row, Int128 value)
 {
     switch (storage) {
-        case DUCKDB_TYPE_UTINYINT:
-            Store(data, row, static_cast<std::uint8_t>(value));
-            break;
-        case DUCKDB_TYPE_SMALLINT:
-            Store(data, row, static_cast<std::int16_t>(value));
-            break;
-        case DUCKDB_TYPE_INTEGER:
-            Store(data, row, static_cast<std::int32_t>(value));
-            break;
-        case DUCKDB_TYPE_BIGINT:
-            Store(data, row, static_cast<std::int64_t>(value));
-            break;
+        case DUCKDB_TYPE_UTINYINT: Store(data, row, static_cast<std::uint8_t>(value)); break;
+        case DUCKDB_TYPE_SMALLINT: Store(data, row, static_cast<std::int16_t>(value)); break;
+        case DUCKDB_TYPE_INTEGER: Store(data, row, static_cast<std::int32_t>(value)); break;
+        case DUCKDB_TYPE_BIGINT: Store(data, row, static_cast<std::int64_t>(value)); break;
         case DUCKDB_TYPE_HUGEINT:
             Store(data, row,
                   duckdb_hugeint{static_cast<std::uint64_t>(value), static_cast<std::int64_t>(value >> 64)});
             break;
-        default:
-            throw DuckError("A column of the table is not stored as its type tells.");
+        default: throw DuckError("A column of the table is not stored as its type tells.");
     }
 }
 
@@ -202,15 +193,9 @@ void TableAppender::WriteRow(std::span<const Value> row)
         }
         try {
             switch (info.type.kind) {
-                case TypeKind::Bit:
-                    Store(column.data, at, AsBit(value, info.type));
-                    break;
-                case TypeKind::Float:
-                    Store(column.data, at, AsFloat(value, info.type));
-                    break;
-                case TypeKind::Datetime:
-                    Store(column.data, at, AsMicroseconds(value, info.type));
-                    break;
+                case TypeKind::Bit: Store(column.data, at, AsBit(value, info.type)); break;
+                case TypeKind::Float: Store(column.data, at, AsFloat(value, info.type)); break;
+                case TypeKind::Datetime: Store(column.data, at, AsMicroseconds(value, info.type)); break;
                 case TypeKind::Money:
                 case TypeKind::Decimal:
                     StoreInteger(column.data, column.storage, at, AsUnscaled(value, info.type));
@@ -221,8 +206,7 @@ void TableAppender::WriteRow(std::span<const Value> row)
                     duckdb_vector_assign_string_element_len(column.vector, at, text.data(), text.size());
                     break;
                 }
-                default:
-                    StoreInteger(column.data, column.storage, at, AsInteger(value, info.type));
+                default: StoreInteger(column.data, column.storage, at, AsInteger(value, info.type));
             }
         } catch (const BadValue& bad) {
             refuse(bad.Number(), info.name, bad.what());

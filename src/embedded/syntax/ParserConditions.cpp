@@ -12,20 +12,13 @@ namespace {
 std::optional<ComparisonOp> ComparisonOf(TokenKind kind)
 {
     switch (kind) {
-        case TokenKind::Equal:
-            return ComparisonOp::Equal;
-        case TokenKind::NotEqual:
-            return ComparisonOp::NotEqual;
-        case TokenKind::Less:
-            return ComparisonOp::Less;
-        case TokenKind::LessOrEqual:
-            return ComparisonOp::LessOrEqual;
-        case TokenKind::Greater:
-            return ComparisonOp::Greater;
-        case TokenKind::GreaterOrEqual:
-            return ComparisonOp::GreaterOrEqual;
-        default:
-            return std::nullopt;
+        case TokenKind::Equal: return ComparisonOp::Equal;
+        case TokenKind::NotEqual: return ComparisonOp::NotEqual;
+        case TokenKind::Less: return ComparisonOp::Less;
+        case TokenKind::LessOrEqual: return ComparisonOp::LessOrEqual;
+        case TokenKind::Greater: return ComparisonOp::Greater;
+        case TokenKind::GreaterOrEqual: return ComparisonOp::GreaterOrEqual;
+        default: return std::nullopt;
     }
 }
 

@@ -66,29 +66,20 @@ ExprPtr Parser::ParsePrimary(Wanted wanted)
     const Token& token = Here();
     const std::uint32_t start = token.place.offset;
     switch (token.kind) {
-        case TokenKind::Number:
-            Take();
-            return Make(start, NumberLiteral{token.value});
+        case TokenKind::Number: Take(); return Make(start, NumberLiteral{token.value});
         case TokenKind::Text:
         case TokenKind::NationalText:
             Take();
             return Make(start, TextLiteral{token.value, token.kind == TokenKind::NationalText});
-        case TokenKind::OpenBracket:
-            return ParseBrackets(wanted);
+        case TokenKind::OpenBracket: return ParseBrackets(wanted);
         case TokenKind::Word:
-        case TokenKind::Bracketed:
-            return ParseNamed();
-        default:
-            break;
+        case TokenKind::Bracketed: return ParseNamed();
+        default: break;
     }
     switch (token.keyword) {
-        case Keyword::Null:
-            Take();
-            return Make(start, NullLiteral{});
-        case Keyword::Case:
-            return ParseCase();
-        case Keyword::Convert:
-            return ParseConvert();
+        case Keyword::Null: Take(); return Make(start, NullLiteral{});
+        case Keyword::Case: return ParseCase();
+        case Keyword::Convert: return ParseConvert();
         case Keyword::Left: {  // reserved for joins, and a function all the same
             Take();
             ObjectName function;
@@ -96,8 +87,7 @@ ExprPtr Parser::ParsePrimary(Wanted wanted)
             function.place = token.place;
             return ParseCall(start, std::move(function));
         }
-        default:
-            Refuse();
+        default: Refuse();
     }
 }
 

@@ -15,24 +15,15 @@ StatementPtr Parser::ParseStatement()
 Statement Parser::ParseStatementBody()
 {
     switch (Here().keyword) {
-        case Keyword::Select:
-            return {SelectStatement{ParseQuery(Into::Allowed)}, {}};
-        case Keyword::Insert:
-            return {ParseInsert(), {}};
-        case Keyword::Update:
-            return {ParseUpdate(), {}};
-        case Keyword::Delete:
-            return {ParseDelete(), {}};
-        case Keyword::Create:
-            return ParseCreate();
-        case Keyword::Alter:
-            return ParseAlter();
-        case Keyword::Drop:
-            return {ParseDrop(), {}};
-        case Keyword::If:
-            return {ParseIf(), {}};
-        default:
-            Refuse();
+        case Keyword::Select: return {SelectStatement{ParseQuery(Into::Allowed)}, {}};
+        case Keyword::Insert: return {ParseInsert(), {}};
+        case Keyword::Update: return {ParseUpdate(), {}};
+        case Keyword::Delete: return {ParseDelete(), {}};
+        case Keyword::Create: return ParseCreate();
+        case Keyword::Alter: return ParseAlter();
+        case Keyword::Drop: return {ParseDrop(), {}};
+        case Keyword::If: return {ParseIf(), {}};
+        default: Refuse();
     }
 }
 

@@ -211,9 +211,9 @@ struct Select {
     bool distinct = false;
     std::optional<std::int64_t> top;
     std::vector<SelectItem> items;
-    std::optional<ObjectName> into;     // of the first select of a statement only
-    std::vector<TableSourcePtr> from;   // several: joined by commas; none: a select without FROM
-    ExprPtr where;                      // null when absent, so are the next ones
+    std::optional<ObjectName> into;    // of the first select of a statement only
+    std::vector<TableSourcePtr> from;  // several: joined by commas; none: a select without FROM
+    ExprPtr where;                     // null when absent, so are the next ones
     std::vector<ExprPtr> groupBy;
     ExprPtr having;
     Place place;
@@ -243,9 +243,9 @@ struct SelectStatement {
 
 struct InsertStatement {
     ObjectName target;
-    std::vector<Name> columns;                // empty: by position
-    QueryPtr query;                           // null for values
-    std::vector<std::vector<ExprPtr>> values; // rows of `values (...), (...)`
+    std::vector<Name> columns;                 // empty: by position
+    QueryPtr query;                            // null for values
+    std::vector<std::vector<ExprPtr>> values;  // rows of `values (...), (...)`
 };
 
 struct Assignment {

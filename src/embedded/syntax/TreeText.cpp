@@ -1,5 +1,6 @@
 #include "embedded/syntax/TreeText.h"
 
+#include "embedded/syntax/Operators.h"
 #include "frame/Text.h"
 
 #include <string_view>
@@ -8,40 +9,6 @@
 namespace kavelin::embedded {
 
 namespace {
-
-std::string_view TextOf(ArithmeticOp op)
-{
-    switch (op) {
-        case ArithmeticOp::Add:
-            return " + ";
-        case ArithmeticOp::Subtract:
-            return " - ";
-        case ArithmeticOp::Multiply:
-            return " * ";
-        case ArithmeticOp::Divide:
-            break;
-    }
-    return " / ";
-}
-
-std::string_view TextOf(ComparisonOp op)
-{
-    switch (op) {
-        case ComparisonOp::Equal:
-            return " = ";
-        case ComparisonOp::NotEqual:
-            return " <> ";
-        case ComparisonOp::Less:
-            return " < ";
-        case ComparisonOp::LessOrEqual:
-            return " <= ";
-        case ComparisonOp::Greater:
-            return " > ";
-        case ComparisonOp::GreaterOrEqual:
-            break;
-    }
-    return " >= ";
-}
 
 // Visits the nodes of a tree; each operator() writes one kind of node.
 class Writer {
@@ -95,7 +62,7 @@ class Writer {
             Write(*node.operand);
         });
     }
-    void operator()(const Arithmetic& node) { Binary(*node.left, TextOf(node.op), *node.right); }
+    void operator()(const Arithmetic& node) { Binary(*node.left, OperatorText(node.op), *node.right); }
     void operator()(const CaseExpr& node)
     {
         Put("case");
@@ -142,7 +109,7 @@ class Writer {
     void operator()(const ScalarSubquery& node) { WriteSubquery(*node.query); }
 
     // --- conditions
-    void operator()(const Comparison& node) { Binary(*node.left, TextOf(node.op), *node.right); }
+    void operator()(const Comparison& node) { Binary(*node.left, OperatorText(node.op), *node.right); }
     void operator()(const Logical& node)
     {
         Binary(*node.left, node.op == LogicalOp::And ? " and " : " or ", *node.right);

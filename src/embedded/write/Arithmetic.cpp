@@ -1,3 +1,4 @@
+#include "embedded/syntax/Operators.h"
 #include "embedded/write/DuckTypes.h"
 #include "embedded/write/Quote.h"
 #include "embedded/write/Quotient.h"
@@ -10,21 +11,6 @@ namespace kavelin::embedded {
 namespace {
 
 constexpr SqlType kInt{.kind = TypeKind::Int};
-
-std::string_view OperatorText(ArithmeticOp op)
-{
-    switch (op) {
-        case ArithmeticOp::Add:
-            return " + ";
-        case ArithmeticOp::Subtract:
-            return " - ";
-        case ArithmeticOp::Multiply:
-            return " * ";
-        case ArithmeticOp::Divide:
-            break;
-    }
-    return " / ";
-}
 
 bool IsDecimal(const SqlType& type)
 {
@@ -70,12 +56,9 @@ std::string Writer::Arithmetic(const BoundArithmetic& arithmetic, const BoundExp
 {
     switch (arithmetic.op) {
         case ArithmeticOp::Add:
-        case ArithmeticOp::Subtract:
-            return Sum(arithmetic, node.type, fit);
-        case ArithmeticOp::Multiply:
-            return Product(arithmetic, node.type, fit);
-        case ArithmeticOp::Divide:
-            break;
+        case ArithmeticOp::Subtract: return Sum(arithmetic, node.type, fit);
+        case ArithmeticOp::Multiply: return Product(arithmetic, node.type, fit);
+        case ArithmeticOp::Divide: break;
     }
     return Division(arithmetic, node.type, fit);
 }
@@ -107,8 +90,7 @@ std::string Writer::Sum(const BoundArithmetic& arithmetic, const SqlType& type, 
             return Cast(text(Cast(Value(left), kInt), Cast(Value(right), kInt)), type);
         case TypeKind::Datetime:
             return text(Value(left), "to_milliseconds(round(" + Value(right) + " * 86400000))");  // days
-        default:
-            return text(Value(left), Value(right));
+        default: return text(Value(left), Value(right));
     }
 }
 

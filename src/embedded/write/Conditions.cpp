@@ -1,3 +1,4 @@
+#include "embedded/syntax/Operators.h"
 #include "embedded/write/Kept.h"
 #include "embedded/write/Like.h"
 #include "embedded/write/Quote.h"
@@ -9,25 +10,6 @@
 namespace kavelin::embedded {
 
 namespace {
-
-std::string_view OperatorText(ComparisonOp op)
-{
-    switch (op) {
-        case ComparisonOp::Equal:
-            return " = ";
-        case ComparisonOp::NotEqual:
-            return " <> ";
-        case ComparisonOp::Less:
-            return " < ";
-        case ComparisonOp::LessOrEqual:
-            return " <= ";
-        case ComparisonOp::Greater:
-            return " > ";
-        case ComparisonOp::GreaterOrEqual:
-            break;
-    }
-    return " >= ";
-}
 
 bool IsEquality(ComparisonOp op)
 {

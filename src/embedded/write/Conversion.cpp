@@ -66,19 +66,14 @@ std::string WriteConversion(const Conversion& conversion, const std::string& ope
         case TypeKind::Tinyint:
         case TypeKind::Smallint:
         case TypeKind::Int:
-        case TypeKind::Bigint:
-            return ToWhole(conversion, operand);
+        case TypeKind::Bigint: return ToWhole(conversion, operand);
         case TypeKind::Money:
-        case TypeKind::Decimal:
-            return ToDecimal(conversion, operand);
-        case TypeKind::Float:
-            return from.kind == TypeKind::Datetime ? DaysOf(operand) : Cast(operand, to);
-        case TypeKind::Datetime:
-            return ToDatetime(conversion, operand);
+        case TypeKind::Decimal: return ToDecimal(conversion, operand);
+        case TypeKind::Float: return from.kind == TypeKind::Datetime ? DaysOf(operand) : Cast(operand, to);
+        case TypeKind::Datetime: return ToDatetime(conversion, operand);
         case TypeKind::Null:
         case TypeKind::Varchar:
-        case TypeKind::Nvarchar:
-            break;
+        case TypeKind::Nvarchar: break;
     }
     return operand;
 }
@@ -86,29 +81,18 @@ std::string WriteConversion(const Conversion& conversion, const std::string& ope
 std::string MessageName(const SqlType& type)
 {
     switch (type.kind) {
-        case TypeKind::Varchar:
-            return "varchar";
-        case TypeKind::Nvarchar:
-            return "nvarchar";
-        case TypeKind::Bit:
-            return "bit";
-        case TypeKind::Tinyint:
-            return "tinyint";
-        case TypeKind::Smallint:
-            return "smallint";
-        case TypeKind::Bigint:
-            return "bigint";
-        case TypeKind::Money:
-            return "money";
-        case TypeKind::Decimal:
-            return "numeric";
-        case TypeKind::Float:
-            return "float";
-        case TypeKind::Datetime:
-            return "datetime";
+        case TypeKind::Varchar: return "varchar";
+        case TypeKind::Nvarchar: return "nvarchar";
+        case TypeKind::Bit: return "bit";
+        case TypeKind::Tinyint: return "tinyint";
+        case TypeKind::Smallint: return "smallint";
+        case TypeKind::Bigint: return "bigint";
+        case TypeKind::Money: return "money";
+        case TypeKind::Decimal: return "numeric";
+        case TypeKind::Float: return "float";
+        case TypeKind::Datetime: return "datetime";
         case TypeKind::Null:
-        case TypeKind::Int:
-            break;
+        case TypeKind::Int: break;
     }
     return "int";
 }

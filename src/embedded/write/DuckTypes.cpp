@@ -6,27 +6,18 @@ std::string DuckType(const SqlType& type)
 {
     switch (type.kind) {
         case TypeKind::Varchar:
-        case TypeKind::Nvarchar:
-            return "VARCHAR";
-        case TypeKind::Bit:
-            return "BOOLEAN";
-        case TypeKind::Tinyint:
-            return "UTINYINT";
-        case TypeKind::Smallint:
-            return "SMALLINT";
-        case TypeKind::Bigint:
-            return "BIGINT";
-        case TypeKind::Money:
-            return "DECIMAL(19,4)";
+        case TypeKind::Nvarchar: return "VARCHAR";
+        case TypeKind::Bit: return "BOOLEAN";
+        case TypeKind::Tinyint: return "UTINYINT";
+        case TypeKind::Smallint: return "SMALLINT";
+        case TypeKind::Bigint: return "BIGINT";
+        case TypeKind::Money: return "DECIMAL(19,4)";
         case TypeKind::Decimal:
             return "DECIMAL(" + std::to_string(type.precision) + "," + std::to_string(type.scale) + ")";
-        case TypeKind::Float:
-            return "DOUBLE";
-        case TypeKind::Datetime:
-            return "TIMESTAMP";
+        case TypeKind::Float: return "DOUBLE";
+        case TypeKind::Datetime: return "TIMESTAMP";
         case TypeKind::Null:
-        case TypeKind::Int:
-            break;
+        case TypeKind::Int: break;
     }
     return "INTEGER";
 }

@@ -85,12 +85,9 @@ std::string Writer::Literal(const BoundLiteral& literal, const SqlType& type, Fi
     if (literal.null)
         return type.kind == TypeKind::Null ? "NULL" : Cast("NULL", type);
     switch (type.kind) {
-        case TypeKind::Bit:
-            return IsTrue(literal.text) ? "TRUE" : "FALSE";
-        case TypeKind::Float:
-            return Cast(QuoteText(literal.text), type);
-        case TypeKind::Datetime:
-            return "TIMESTAMP " + QuoteText(literal.text);
+        case TypeKind::Bit: return IsTrue(literal.text) ? "TRUE" : "FALSE";
+        case TypeKind::Float: return Cast(QuoteText(literal.text), type);
+        case TypeKind::Datetime: return "TIMESTAMP " + QuoteText(literal.text);
         case TypeKind::Tinyint:
         case TypeKind::Smallint:
         case TypeKind::Bigint:
@@ -99,12 +96,10 @@ std::string Writer::Literal(const BoundLiteral& literal, const SqlType& type, Fi
             return fit == Fit::Loose && DigitsBehindPoint(literal.text) == ScaleOf(type)
                        ? Digits(literal.text)
                        : Cast(Digits(literal.text), type);
-        case TypeKind::Int:
-            return Digits(literal.text);
+        case TypeKind::Int: return Digits(literal.text);
         case TypeKind::Varchar:
         case TypeKind::Nvarchar:
-        case TypeKind::Null:
-            break;
+        case TypeKind::Null: break;
     }
     return QuoteText(literal.text);
 }

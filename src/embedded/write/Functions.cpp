@@ -56,8 +56,7 @@ std::string Writer::Function(const BoundFunction& function, const BoundExpr& nod
             const std::string part = DatePart(function.kind) + Value(argument(0)) + ")";
             return fit == Fit::Loose ? part : Cast(part, {.kind = TypeKind::Int});
         }
-        case BoundFunctionKind::Abs:
-            return "abs(" + Value(argument(0), fit) + ")";
+        case BoundFunctionKind::Abs: return "abs(" + Value(argument(0), fit) + ")";
         case BoundFunctionKind::ObjectId: {
             const BoundLiteral* name = ConstantText(argument(0));
             if (!name)
@@ -65,8 +64,7 @@ std::string Writer::Function(const BoundFunction& function, const BoundExpr& nod
                                node.place);
             return ObjectIdentifier(name->text);
         }
-        case BoundFunctionKind::LocaleId:
-            break;
+        case BoundFunctionKind::LocaleId: break;
     }
     return function.arguments.empty() ? "CAST(getvariable('kavelin_locale') AS VARCHAR)" : Value(argument(0));
 }
@@ -84,10 +82,10 @@ std::string Writer::Aggregate(const BoundAggregate& aggregate, const BoundExpr& 
     const std::string open = aggregate.distinct ? "(DISTINCT " : "(";
     switch (aggregate.kind) {
         case AggregateKind::Count:
-            return sized(Grouped("count" + open +
-                                     (text && aggregate.distinct ? Folded(argument) : Value(argument, Fit::Loose)) +
-                                     ")",
-                                 "sum"));
+            return sized(Grouped(
+                "count" + open +
+                    (text && aggregate.distinct ? Folded(argument) : Value(argument, Fit::Loose)) + ")",
+                "sum"));
         case AggregateKind::Min:
         case AggregateKind::Max: {
             const bool least = aggregate.kind == AggregateKind::Min;
@@ -110,8 +108,7 @@ std::string Writer::Aggregate(const BoundAggregate& aggregate, const BoundExpr& 
             return natural ? sum : sized(sum);
         }
         case AggregateKind::Avg:
-        case AggregateKind::CountRows:
-            break;
+        case AggregateKind::CountRows: break;
     }
 
     const bool isFloat = node.type.kind == TypeKind::Float;

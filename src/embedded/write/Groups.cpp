@@ -68,7 +68,8 @@ std::vector<Writer::GroupKey> Writer::GroupKeys(const BoundSelect& select, Parts
         const std::string column = parts.Key(i);
         const bool folds = IsKeyToFold(select.groupBy[i]);
         parts.keys.push_back(folds ? Value(expression) : keys[i].grouped);
-        keys[i] = {folds ? "min(" + column + ")" : column, folds ? FoldAlone(column, expression.facts) : column};
+        keys[i] = {folds ? "min(" + column + ")" : column,
+                   folds ? FoldAlone(column, expression.facts) : column};
     }
     return keys;
 }

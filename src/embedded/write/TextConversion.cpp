@@ -66,8 +66,7 @@ std::string WholeOverflow(const Conversion& conversion, const std::string& v)
             return RaiseWith(244, before, v, "' overflowed an INT2 column. Use a larger integer column.");
         case TypeKind::Bigint:
             return Raise(8115, "Arithmetic overflow error converting expression to data type bigint.");
-        default:
-            return RaiseWith(248, before, v, "' overflowed an int column.");
+        default: return RaiseWith(248, before, v, "' overflowed an int column.");
     }
 }
 
@@ -203,14 +202,10 @@ std::string DatetimeText(const Conversion& conversion, const std::string& operan
 int LongestWhole(TypeKind kind)
 {
     switch (kind) {
-        case TypeKind::Tinyint:
-            return 3;
-        case TypeKind::Smallint:
-            return 6;
-        case TypeKind::Int:
-            return 11;
-        default:
-            return 20;
+        case TypeKind::Tinyint: return 3;
+        case TypeKind::Smallint: return 6;
+        case TypeKind::Int: return 11;
+        default: return 20;
     }
 }
 
@@ -220,18 +215,12 @@ std::string WriteFromText(const Conversion& conversion, const std::string& opera
 {
     return scratch.Repeat(operand, [&](const std::string& v) {
         switch (conversion.to.kind) {
-            case TypeKind::Bit:
-                return ReadBit(conversion, v);
-            case TypeKind::Money:
-                return ReadMoney(conversion, v);
-            case TypeKind::Decimal:
-                return ReadDecimal(conversion, v);
-            case TypeKind::Float:
-                return ReadFloat(conversion, v);
-            case TypeKind::Datetime:
-                return ReadDatetime(conversion, v);
-            default:
-                return ReadWhole(conversion, v);
+            case TypeKind::Bit: return ReadBit(conversion, v);
+            case TypeKind::Money: return ReadMoney(conversion, v);
+            case TypeKind::Decimal: return ReadDecimal(conversion, v);
+            case TypeKind::Float: return ReadFloat(conversion, v);
+            case TypeKind::Datetime: return ReadDatetime(conversion, v);
+            default: return ReadWhole(conversion, v);
         }
     });
 }
@@ -258,13 +247,10 @@ std::string WriteToText(const Conversion& conversion, const std::string& operand
                 conversion,
                 "regexp_replace(printf('%g', " + operand + "), 'e([+-])([0-9][0-9])$', 'e\\10\\2')", 13,
                 scratch);
-        case TypeKind::Datetime:
-            return DatetimeText(conversion, operand);
+        case TypeKind::Datetime: return DatetimeText(conversion, operand);
         case TypeKind::Varchar:
-        case TypeKind::Nvarchar:
-            return TextToText(conversion, operand, scratch);
-        default:
-            return NumberText(conversion, asText(operand), LongestWhole(from.kind), scratch);
+        case TypeKind::Nvarchar: return TextToText(conversion, operand, scratch);
+        default: return NumberText(conversion, asText(operand), LongestWhole(from.kind), scratch);
     }
 }
 

@@ -21,14 +21,14 @@ class AuthService : public virtual HostObject {
 
 class LoginContext : public virtual HostObject {
   public:
-    virtual std::string VosDbName() = 0;        // connection string of the account database
-    virtual std::string AccountId() = 0;        // compared with `cAcc_ID` of the system tables
-    virtual std::string Year() = 0;             // accounting year of the login, as digits
-    virtual int Month() = 0;                    // month of the login, 1 to 12
-    virtual std::string Password() = 0;         // of the system database
+    virtual std::string VosDbName() = 0;  // connection string of the account database
+    virtual std::string AccountId() = 0;  // compared with `cAcc_ID` of the system tables
+    virtual std::string Year() = 0;       // accounting year of the login, as digits
+    virtual int Month() = 0;              // month of the login, 1 to 12
+    virtual std::string Password() = 0;   // of the system database
     virtual std::string UserId() = 0;
-    virtual std::string ConnectionText() = 0;   // for the ledger objects and the authorisation service
-    virtual std::string LanguageRegion() = 0;   // "zh-CN", "en-US"
+    virtual std::string ConnectionText() = 0;  // for the ledger objects and the authorisation service
+    virtual std::string LanguageRegion() = 0;  // "zh-CN", "en-US"
 
     // Its late-bound `DbConnect` has the late-bound text `ConnectionString`, of the system database.
     virtual std::shared_ptr<LateBound> SystemDatabase() = 0;

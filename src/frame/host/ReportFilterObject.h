@@ -15,7 +15,7 @@ namespace kavelin {
 class NamedValues : public virtual HostObject {
   public:
     virtual std::int32_t Count() = 0;
-    virtual Variant Item(std::string_view key) = 0;  // without regard to case; empty if there is none
+    virtual Variant Item(std::string_view key) = 0;   // without regard to case; empty if there is none
     virtual Variant Item(std::int32_t position) = 0;  // from 1
     virtual void Add(const Variant& value, std::string_view key) = 0;
 };
@@ -23,8 +23,9 @@ class NamedValues : public virtual HostObject {
 // One field.
 class FilterItem : public virtual HostObject {
   public:
-    virtual std::string Name() = 0;        // the filter key
-    virtual std::string ControlKey() = 0;  // under which the field operations know it; with "__2" the second box
+    virtual std::string Name() = 0;  // the filter key
+    virtual std::string
+    ControlKey() = 0;  // under which the field operations know it; with "__2" the second box
 
     // The value, or the "from" value of a range. A multiple selection arrives as one text.
     virtual Value varValue() = 0;
@@ -47,7 +48,8 @@ class FilterList : public virtual HostObject {
   public:
     virtual std::int32_t Count() = 0;
     virtual std::shared_ptr<FilterItem> Item(std::int32_t position) = 0;  // from 1
-    virtual std::shared_ptr<FilterItem> Item(std::string_view key) = 0;   // without regard to case; null if none
+    virtual std::shared_ptr<FilterItem> Item(
+        std::string_view key) = 0;  // without regard to case; null if none
 };
 
 class ReportFilterObject : public virtual HostObject {

@@ -79,8 +79,8 @@ class SettingsStore : public virtual HostObject {
 class XmlNode : public virtual HostObject {
   public:
     virtual std::string nodeName() = 0;
-    virtual std::string text() = 0;                             // of the node and all below it
-    virtual Value getAttribute(const std::string& name) = 0;    // null if there is none
+    virtual std::string text() = 0;                           // of the node and all below it
+    virtual Value getAttribute(const std::string& name) = 0;  // null if there is none
     virtual std::vector<std::shared_ptr<XmlNode>> childNodes() = 0;
 };
 

@@ -25,12 +25,8 @@ void WriteRows(Recordset& rows, const OutputOptions& options, std::ostream& out)
         case OutputFormat::Table:
             WriteTable(rows, {options.limit, options.width, options.colour, false}, out);
             break;
-        case OutputFormat::Csv:
-            WriteCsv(rows, options.limit, out);
-            break;
-        case OutputFormat::Json:
-            WriteJson(rows, options.limit, out);
-            break;
+        case OutputFormat::Csv: WriteCsv(rows, options.limit, out); break;
+        case OutputFormat::Json: WriteJson(rows, options.limit, out); break;
     }
     out.flush();
     if (!out)

@@ -16,23 +16,12 @@ constexpr std::size_t kChunk = 64 * 1024;  // bytes handed to the stream at a ti
 void AppendControl(std::string& json, char character)
 {
     switch (character) {
-        case '\b':
-            json += "\\b";
-            break;
-        case '\f':
-            json += "\\f";
-            break;
-        case '\n':
-            json += "\\n";
-            break;
-        case '\r':
-            json += "\\r";
-            break;
-        case '\t':
-            json += "\\t";
-            break;
-        default:
-            json += fmt::format("\\u{:04x}", static_cast<unsigned char>(character));
+        case '\b': json += "\\b"; break;
+        case '\f': json += "\\f"; break;
+        case '\n': json += "\\n"; break;
+        case '\r': json += "\\r"; break;
+        case '\t': json += "\\t"; break;
+        default: json += fmt::format("\\u{:04x}", static_cast<unsigned char>(character));
     }
 }
 

@@ -57,9 +57,7 @@ class Runner {
                     Compare(block, block.argument, std::to_string(changed));
                 break;
             }
-            case SqlBlockKind::Error:
-                ExpectError(block);
-                break;
+            case SqlBlockKind::Error: ExpectError(block); break;
             case SqlBlockKind::Query: {
                 const auto rows = Open(block);
                 std::vector<std::string> types;
@@ -80,9 +78,7 @@ class Runner {
                 Compare(block, block.argument, Joined(names, ", "));
                 break;
             }
-            case SqlBlockKind::Connection:
-                Use(block.argument);
-                break;
+            case SqlBlockKind::Connection: Use(block.argument); break;
             case SqlBlockKind::Close:
                 Current().Close();
                 dicConnections.erase(strCurrent);

@@ -60,7 +60,10 @@ AccountHost::~AccountHost()
     std::filesystem::remove_all(objFolder, ignored);
 }
 
-void AccountHost::Run(const std::string& sql) { cnnOutside->Execute(sql); }
+void AccountHost::Run(const std::string& sql)
+{
+    cnnOutside->Execute(sql);
+}
 
 bool AccountHost::HasTable(const std::string& name)
 {

@@ -2,21 +2,16 @@
 
 #include "analysis/ProPortionFilter.h"
 #include "analysis/ProPortionStatements.h"
-#include "frame/DataPermission.h"
 #include "frame/ModPub.h"
+#include "frame/PermissionColumns.h"
 
 namespace kavelin {
 
 namespace {
 
-constexpr PermissionColumn kPermissionColumns[] = {
-    {"IA_Subsidiary.cWhCode", "仓库"},
-    {" Inventory.iid", "存货"},
-};
-
 std::string BuildPermissionWhere()
 {
-    return BuildPermissionClauses(kPermissionColumns);
+    return BuildPermissionClauses(PermissionColumnsOf("clsProPortion"));
 }
 
 std::unique_ptr<Recordset> OpenStatic(Connection& connection, const std::string& sql)

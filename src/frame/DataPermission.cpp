@@ -131,16 +131,4 @@ bool IsAuthSwitchedOn(const std::string& strKind)
     return !name || ToLower(ToText(GetAccInfoValue("IA", name))) == "true";
 }
 
-std::string BuildPermissionClauses(std::span<const PermissionColumn> columns)
-{
-    std::string clauses;
-    for (const PermissionColumn& column : columns) {
-        const std::string clause =
-            GetDataPermissionClause(std::string(column.field), column.kind, false, column.noCostLimit);
-        if (!clause.empty())
-            clauses += " and " + clause;
-    }
-    return clauses;
-}
-
 }  // namespace kavelin

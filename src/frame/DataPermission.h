@@ -2,7 +2,6 @@
 // items and operators that he may see.
 #pragma once
 
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -28,15 +27,5 @@ std::string GetAuthClause(const std::string& strObject, const std::string& strRu
 
 // Whether the account restricts the authorisation object `strKind`. Operators are always asked for.
 bool IsAuthSwitchedOn(const std::string& strKind);
-
-// A column of a report's statement and the kind by which it is restricted.
-struct PermissionColumn {
-    std::string_view field;
-    std::string_view kind;
-    bool noCostLimit = false;
-};
-
-// " and " and the piece, for each column that has one, in order.
-std::string BuildPermissionClauses(std::span<const PermissionColumn> columns);
 
 }  // namespace kavelin

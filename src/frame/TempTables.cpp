@@ -49,6 +49,17 @@ std::string GetClientSuffix()
     return std::to_string(number);
 }
 
+std::string GetClientTableName(std::string_view strFixedPart)
+{
+    const std::string machine = Machine().MachineName();
+    return std::string(strFixedPart) + machine + GetClientSuffix();
+}
+
+std::string InTempdb(const std::string& strTable)
+{
+    return "Tempdb..[" + strTable + "]";
+}
+
 void DropTableQuiet(Connection& connection, const std::string& strTable)
 {
     try {

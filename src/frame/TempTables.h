@@ -16,6 +16,13 @@ std::string CreateGuidText(std::string_view strRemove);
 // A number that tells this client from others of the machine, as decimal digits.
 std::string GetClientSuffix();
 
+// The name of a work table of this client: `strFixedPart`, the machine's name and the client's number. It is
+// what the name column of Tempdb..sysobjects is compared with.
+std::string GetClientTableName(std::string_view strFixedPart);
+
+// The same table as statements name it: "Tempdb..[", the name and "]".
+std::string InTempdb(const std::string& strTable);
+
 // Drops a table. Every error is swallowed, that of a missing table among them.
 void DropTableQuiet(Connection& connection, const std::string& strTable);
 

@@ -1,7 +1,8 @@
 #include "frame/DataPermission.h"
-#include "frame/Text.h"
 
 #include "frame/Errors.h"
+#include "frame/PermissionColumns.h"
+#include "frame/Text.h"
 #include "support/RecordingHost.h"
 
 #include <gtest/gtest.h>
@@ -248,6 +249,66 @@ TEST_F(DataPermission, PiecesOfAReportAreJoinedByAndInTheOrderOfItsColumns)
               " and  ((w IN (Select cWhCode From Warehouse Where bInCost = 1))  or w is null) "
               " and  isnull( i, N'') IN ('A')");
     EXPECT_EQ(BuildPermissionClauses({}), "");
+}
+
+TEST_F(DataPermission, ColumnsOfEachReportAreItsOwn)
+{
+    Switch(kDepartment, "TRUE");
+    Switch(kInventory, "TRUE");
+    host.Answers().lists = {{"Department", "'D'"}, {"Inventory", "'I'"}};
+    const auto costOnly = [](const std::string& field) {
+        return " and  ((" + field + " IN (Select cWhCode From Warehouse Where bInCost = 1))  or " + field +
+               " is null) ";
+    };
+    const auto department = [](const std::string& field) {
+        return " and (" + field + " IN ('D') or " + field + " is null)";
+    };
+    const auto inventory = [](const std::string& field) {
+        return " and  isnull(" + field + ", N'') IN ('I')";
+    };
+    const struct {
+        const char* report;
+        std::string clauses;
+    } cases[] = {
+        {"ClsWtInfo", costOnly("NoSub.cWhCode") + department("NoSub.cAccDep") + inventory(" INVENTORY.iid")},
+        {"clsStaCostacc", costOnly("cWhCode") + department("cAccDep")},
+        {"clsIaAnalysis", costOnly("cWhCode") + department("cAccDep") + inventory("iid")},
+        {"clsProPortion", costOnly("IA_Subsidiary.cWhCode") + inventory(" Inventory.iid")},
+        {"clsLastRep", costOnly("Ia_subsidiary.cWhCode") + department("Ia_subsidiary.caccdep") +
+                           inventory(" Inventory.iid")},
+        {"clsCinTurnRep", department("Ia_subsidiary.cDepCode") + inventory(" Inventory.iid")},
+        {"ClsFcSumCon", costOnly("Ia_Ensubsidiary.cWhCode") + department("Ia_Ensubsidiary.cAccDep") +
+                            inventory(" Inventory.iid")},
+        {"clsSFCSumCon", costOnly("Ia_Ensubsidiary.cWhCode") + department("Ia_Ensubsidiary.cAccDep") +
+                             inventory(" Inventory.iid")},
+        {"clsIASFCReport", costOnly("cWhCode") + department("cdepcode") + inventory(" inventory.iid ")},
+        {"clsIASFCReport unposted", costOnly("cWhCode") + department("cdepcode") + inventory(" iid ")},
+        {"clsFilterControl", costOnly("WareHouse.cWhCode") + department("WareHouse.cDepCode")},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(BuildPermissionClauses(PermissionColumnsOf(c.report)), c.clauses) << c.report;
+    EXPECT_THROW(PermissionColumnsOf("clsNobody"), Error);
+}
+
+TEST_F(DataPermission, OfTheAbcAnalysisFollowsHowTheAccountValues)
+{
+    Switch(kDepartment, "TRUE");
+    host.Answers().lists = {{"Department", "'D'"}};
+    const auto columns = PermissionColumnsOf("ClsABC");
+    EXPECT_EQ(BuildPermissionClauses(columns, "按仓库核算"),
+              " and  ((Ia_Summary.cWhCode IN (Select cWhCode From Warehouse Where bInCost = 1))"
+              "  or Ia_Summary.cWhCode is null) ");
+    EXPECT_EQ(BuildPermissionClauses(columns, "按部门核算"),
+              " and (Ia_Summary.cDepCode IN ('D') or Ia_Summary.cDepCode is null)");
+    EXPECT_EQ(BuildPermissionClauses(columns, "按存货核算"), "");
+}
+
+// The dialog offers what a user may write to.
+TEST_F(DataPermission, OfTheDialogAsksForTheRightToWrite)
+{
+    Switch(kWarehouse, "TRUE");
+    BuildPermissionClauses(PermissionColumnsOf("clsFilterControl"));
+    EXPECT_NE(host.Events().Text().find("AuthService.GetList 'Warehouse', '', 'W'\n"), std::string::npos);
 }
 
 }  // namespace kavelin::test

@@ -52,6 +52,17 @@ TEST(GetClientSuffix, IsTheNumberOfANewObjectAsDigits)
     EXPECT_THROW(GetClientSuffix(), OverflowError);
 }
 
+TEST(GetClientTableName, JoinsFixedPartMachineAndNumber)
+{
+    RecordingHost host;
+    host.Answers().clientNumber = 7;
+    const std::string name = GetClientTableName("FCSFCItem");
+    EXPECT_EQ(name, "FCSFCItem" + Machine().MachineName() + "7");
+    const auto connection = host.OpenAccount();
+    DropTableQuiet(*connection, InTempdb(name));
+    EXPECT_EQ(host.Events().Text(), "#1.Execute drop table Tempdb..[" + name + "]\n");
+}
+
 TEST(DropTableQuiet, SendsOneStatementAndSwallowsEveryError)
 {
     RecordingHost host;

@@ -2,6 +2,8 @@
 
 #include "demo/MemorySink.h"
 #include "demo/TestFolder.h"
+#include "embedded/EmbeddedAccount.h"
+#include "embedded/engine/Instance.h"
 #include "frame/Errors.h"
 
 #include <gtest/gtest.h>
@@ -26,6 +28,39 @@ TEST(DemoCompany, HoldsTheGeneratedRows)
                         "select AutoID, dKeepDate, cVouType, cBusType, cInvCode, iAInQuantity, iAInPrice, "
                         "iAOutPrice, cMemo from IA_Subsidiary where AutoID = 1"),
               "1|2008-01-01|34|NULL|STL-01-001|2960|51740.8|NULL|NULL\n");
+}
+
+// Comparisons leave out work for columns of which the engine knows something; it must be true.
+TEST(DemoCompany, HoldsTextsThatAreAsTheEngineKnowsThem)
+{
+    TestFolder folder;
+    const std::filesystem::path path = folder / "demo.kavelin";
+    MakeDemoAccount(path, MinimumLines(), 1);
+    const auto account = embedded::OpenAccount(path.string());
+    embedded::Session session(account->Shared()->Duck());
+    int folded = 0;
+    int asTheyStand = 0;
+    for (const embedded::ObjectInfo& table : account->Objects(embedded::Database::Account)) {
+        if (table.kind != embedded::ObjectKind::Table)
+            continue;
+        for (const embedded::ColumnInfo& column : table.columns) {
+            if (!column.type.IsText())
+                continue;
+            const auto rowsWith = [&](const std::string& condition) {
+                return ToInt32(
+                    session.Run("select count(*) from " + table.duckName + " where " + condition).Get(0, 0));
+            };
+            const std::string name = '"' + column.name + '"';
+            const bool trimmed = rowsWith("ends_with(" + name + ", ' ')") == 0;
+            const bool capitals = rowsWith(name + " <> upper(" + name + ")") == 0;
+            EXPECT_TRUE(trimmed || !column.facts.noTrailingBlanks) << table.name << "." << column.name;
+            EXPECT_TRUE(capitals || !column.facts.noCase) << table.name << "." << column.name;
+            ++(column.facts.noCase ? asTheyStand : folded);
+        }
+    }
+    // The demo meets both kinds.
+    EXPECT_GT(folded, 10);
+    EXPECT_GT(asTheyStand, 10);
 }
 
 TEST(DemoCompany, HoldsTheWrittenRows)

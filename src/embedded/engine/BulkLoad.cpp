@@ -68,9 +68,9 @@ struct BulkLoad::Load {
     {
         if (!appender)
             return;
-        ObjectInfo table = appender->Finish();
+        const auto table = std::make_shared<const ObjectInfo>(appender->Finish());
         appender.reset();
-        loaded[table.duckName] = std::make_shared<const ObjectInfo>(std::move(table));
+        loaded[table->duckName] = table;
     }
 };
 

@@ -175,6 +175,27 @@ TEST_F(BulkLoadTest, LearnsWhatTheTextsAreLike)
               "1\n");
 }
 
+// What was learned of the first table was lost when a second one followed in the same load.
+TEST_F(BulkLoadTest, LearnsWhatTheTextsOfEveryTableAreLike)
+{
+    objConnection->Execute("create table F (a nvarchar(9))\r\ncreate table G (a nvarchar(9))");
+    {
+        BulkLoad load(*objHandle);
+        load.Begin("F", {"a"});
+        load.Append(Row{Value("5.5kW ")});
+        load.Begin("G", {"a"});
+        load.Append(Row{Value("A1")});
+        load.Commit();
+    }
+    for (const ObjectInfo& object : objHandle->Objects(Database::Account)) {
+        if (object.name == "F" || object.name == "G") {
+            const TextFacts wanted = object.name == "F" ? TextFacts{} : TextFacts{true, true};
+            EXPECT_EQ(object.columns[0].facts, wanted) << object.name;
+        }
+    }
+    EXPECT_EQ(Rows("select count(*) from F where a = '5.5KW'"), "1\n");
+}
+
 TEST_F(BulkLoadTest, LoadsMoreRowsThanOneChunkHolds)
 {
     objConnection->Execute("create table tempdb..L (n int, c nvarchar(20))");

@@ -23,11 +23,12 @@ endif()
 add_library(kavelin_options INTERFACE)
 # -Wno-restrict: GCC 12 sees overlaps in std::string's operator+ that are not there (its bug 105651).
 target_compile_options(kavelin_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
-                       -Woverloaded-virtual -Wimplicit-fallthrough -Wno-restrict $<$<BOOL:${KAVELIN_WERROR}>:-Werror>)
+                       -Woverloaded-virtual -Wimplicit-fallthrough $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
+                       $<$<BOOL:${KAVELIN_WERROR}>:-Werror>)
 if(KAVELIN_SANITIZE)
     # -Wno-maybe-uninitialized: GCC warns of its own instrumented code; the other presets keep the warning.
     target_compile_options(kavelin_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
-                           -fno-omit-frame-pointer -Wno-maybe-uninitialized)
+                           -fno-omit-frame-pointer $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     target_link_options(kavelin_options INTERFACE -fsanitize=address,undefined)
 endif()
 

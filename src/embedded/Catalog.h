@@ -3,6 +3,7 @@
 #pragma once
 
 #include "embedded/SqlType.h"
+#include "embedded/TextFacts.h"
 
 #include <optional>
 #include <string>
@@ -10,17 +11,6 @@
 #include <vector>
 
 namespace kavelin::embedded {
-
-// Facts of the values of a text column that spare work when it is compared. T-SQL compares without
-// regard to case and to trailing blanks, so a comparison folds both sides; a side known to be folded
-// already is compared as it stands. False means "not known", which is always safe.
-struct TextFacts {
-    bool noTrailingBlanks = false;  // no value ends in a blank
-    bool noCase = false;            // no value holds a letter with another case form that it could differ in:
-                                    // only characters outside a-z, and none beyond ASCII that has a case
-
-    bool operator==(const TextFacts&) const = default;
-};
 
 struct ColumnInfo {
     std::string name;  // as declared

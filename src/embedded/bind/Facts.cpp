@@ -1,52 +1,8 @@
 #include "embedded/bind/Facts.h"
 
 #include "embedded/bind/BoundBuild.h"
-#include "frame/Text.h"
-
-#include <string>
 
 namespace kavelin::embedded {
-
-namespace {
-
-bool HasCase(char32_t character)
-{
-    constexpr char32_t kFirstIdeograph = 0x2E80;
-    constexpr char32_t kLastIdeograph = 0xD7FF;
-    if (character >= kFirstIdeograph && character <= kLastIdeograph)
-        return false;
-    std::string text;
-    AppendCharacter(text, character);
-    return ToLower(text) != text || ToUpper(text) != text;
-}
-
-bool HoldsCase(std::string_view text)
-{
-    std::size_t position = 0;
-    while (position < text.size()) {
-        const char c = text[position];
-        if (static_cast<unsigned char>(c) < 0x80) {
-            if (c >= 'a' && c <= 'z')
-                return true;
-            ++position;
-        } else if (HasCase(NextCharacter(text, position))) {
-            return true;
-        }
-    }
-    return false;
-}
-
-}  // namespace
-
-TextFacts FactsOf(std::string_view text)
-{
-    return {!text.ends_with(' '), !HoldsCase(text)};
-}
-
-TextFacts Both(const TextFacts& a, const TextFacts& b)
-{
-    return {a.noTrailingBlanks && b.noTrailingBlanks, a.noCase && b.noCase};
-}
 
 bool Weakens(const TextFacts& column, const TextFacts& value)
 {

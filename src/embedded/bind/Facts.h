@@ -1,16 +1,10 @@
 // What is known of the values of a text expression, see TextFacts.
 #pragma once
 
+#include "embedded/TextFacts.h"
 #include "embedded/bind/BoundTree.h"
 
-#include <string_view>
-
 namespace kavelin::embedded {
-
-TextFacts FactsOf(std::string_view text);
-
-// What both know: the facts of a value that is one or the other.
-TextFacts Both(const TextFacts& a, const TextFacts& b);
 
 // Whether a column of those facts loses one when the value is stored in it.
 bool Weakens(const TextFacts& column, const TextFacts& value);

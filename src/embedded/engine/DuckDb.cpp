@@ -109,11 +109,6 @@ Result::Result(Result&&) noexcept = default;
 Result& Result::operator=(Result&&) noexcept = default;
 Result::~Result() = default;
 
-int Result::ColumnCount() const
-{
-    return static_cast<int>(objContent->columns.size());
-}
-
 std::int64_t Result::RowCount() const
 {
     return objContent->rowCount;

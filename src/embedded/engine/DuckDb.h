@@ -31,7 +31,6 @@ class Result {
     Result& operator=(Result&&) noexcept;
     ~Result();
 
-    int ColumnCount() const;
     std::int64_t RowCount() const;
     std::int64_t RowsChanged() const;  // by an insert, update or delete
 

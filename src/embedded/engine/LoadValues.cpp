@@ -106,13 +106,6 @@ std::int64_t ParseTimestamp(const std::string& text)
     return duration_cast<microseconds>(day.time_since_epoch() + time).count();
 }
 
-// Characters that have no case in any script that could stand beside them: Chinese, Japanese, Korean and
-// their punctuation. For all others it is left open.
-bool IsCaselessBeyondAscii(char32_t c)
-{
-    return (c >= 0x2E80 && c <= 0xA4CF) || (c >= 0xAC00 && c <= 0xD7A3) || (c >= 0xF900 && c <= 0xFAFF);
-}
-
 struct TextScan {
     std::size_t characters = 0;
     bool valid = true;

@@ -14,8 +14,7 @@ void WeakenFacts(ColumnInfo& column, const ObjectInfo& before)
     for (const ColumnInfo& old : before.columns) {
         if (!EqualsNoCase(old.name, column.name) || !old.type.IsText())
             continue;
-        column.facts.noTrailingBlanks = column.facts.noTrailingBlanks && old.facts.noTrailingBlanks;
-        column.facts.noCase = column.facts.noCase && old.facts.noCase;
+        column.facts = Both(column.facts, old.facts);
     }
 }
 

@@ -192,10 +192,8 @@ std::string Writer::Union(const BoundQuery& query, std::vector<Column>& columns)
         const std::vector<Column> part = ColumnsOf(select);
         columns.resize(part.size(), {"", false, {true, true}});
         for (std::size_t k = 0; k < part.size(); ++k)
-            columns[k] = {part[k].name,
-                          columns[k].text || part[k].text,
-                          {columns[k].facts.noTrailingBlanks && part[k].facts.noTrailingBlanks,
-                           columns[k].facts.noCase && part[k].facts.noCase}};
+            columns[k] = {part[k].name, columns[k].text || part[k].text,
+                          Both(columns[k].facts, part[k].facts)};
     }
     if (query.selects.size() == 1)
         return Distinct("(" + PlainQuery(query.selects[0], {}, {.positional = true, .bare = true}) + ")",

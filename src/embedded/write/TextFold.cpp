@@ -1,5 +1,6 @@
 #include "embedded/write/TextFold.h"
 
+#include "embedded/TextFacts.h"
 #include "embedded/write/Quote.h"
 #include "frame/Text.h"
 
@@ -12,13 +13,6 @@ bool IsAsciiLetter(char c)
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
-// Scripts of the Far East and the signs that go with them, full-width letters left out.
-bool IsCaseless(char32_t character)
-{
-    return (character >= 0x2E80 && character <= 0xA63F) || (character >= 0xAC00 && character <= 0xD7AF) ||
-           (character >= 0xF900 && character <= 0xFAFF) || (character >= 0x20000 && character <= 0x3FFFF);
-}
-
 }  // namespace
 
 Letters LettersOf(std::string_view text)
@@ -28,7 +22,7 @@ Letters LettersOf(std::string_view text)
         const char32_t character = NextCharacter(text, at);
         if (character < 0x80) {
             letters.cased = letters.cased || IsAsciiLetter(static_cast<char>(character));
-        } else if (!IsCaseless(character)) {
+        } else if (!IsCaselessBeyondAscii(character)) {
             letters.cased = true;
             letters.onlyAscii = false;
         }

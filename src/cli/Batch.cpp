@@ -2,6 +2,7 @@
 
 #include "embedded/Plan.h"
 #include "embedded/SqlError.h"
+#include "embedded/engine/EngineErrors.h"
 #include "embedded/syntax/Position.h"
 
 namespace kavelin::cli {
@@ -14,19 +15,6 @@ bool GivesRows(const embedded::Statement& statement)
         return GivesRows(*test->then);
     const auto* select = std::get_if<embedded::SelectStatement>(&statement.node);
     return select && !select->query->selects.front().into;
-}
-
-DatabaseError::Details DetailsOf(const embedded::SqlError& error, const std::string& batch)
-{
-    const embedded::LineColumn place = embedded::LineAndColumn(batch, error.Where().offset);
-    DatabaseError::Details details;
-    details.strMessage = error.what();
-    details.strSqlState = "42000";
-    details.lngNumber = error.Number();
-    details.strStatement = batch;
-    details.lngLine = static_cast<std::int32_t>(place.line);
-    details.lngColumn = static_cast<std::int32_t>(place.column);
-    return details;
 }
 
 }  // namespace
@@ -43,7 +31,7 @@ std::vector<BatchPart> SplitBatch(const std::string& batch)
         }
         return parts;
     } catch (const embedded::SqlError& error) {
-        throw DatabaseError(DetailsOf(error, batch));
+        throw DatabaseError(embedded::DetailsOf(error, batch));
     }
 }
 

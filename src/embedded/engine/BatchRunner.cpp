@@ -107,8 +107,8 @@ bool BatchRunner::GivesARow(const Query& query)
     const std::shared_lock lock(objInstance.Placement());
     const CatalogView catalog = View(false);
     BatchResult result;
-    RunPlan(TranslateQuery(query, strBatch, catalog), catalog, KeepRows::First, result);
-    return !result.rowSets.empty() && result.rowSets.front().RowCount() > 0;
+    RunPlan(TranslateQuery(query, strBatch, catalog), catalog, KeepRows::Yes, result);
+    return result.rows && result.rows->RowCount() > 0;
 }
 
 void BatchRunner::RunPlan(const StatementPlan& plan, const Catalog& catalog, KeepRows keep,
@@ -132,9 +132,8 @@ void BatchRunner::RunPlan(const StatementPlan& plan, const Catalog& catalog, Kee
     TakeOver(plan.changes);
 
     result.rowsChanged = plan.countsRows && last ? last->RowsChanged() : -1;
-    const bool wanted = keep == KeepRows::All || (keep == KeepRows::First && result.rowSets.empty());
-    if (plan.rows && last && wanted)
-        result.rowSets.push_back({*plan.rows, std::move(*last)});
+    if (plan.rows && last && keep == KeepRows::Yes && !result.rows)
+        result.rows = RowSet{*plan.rows, std::move(*last)};
 }
 
 CatalogView BatchRunner::View(bool intoFile) const

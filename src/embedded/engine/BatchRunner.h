@@ -22,11 +22,11 @@ struct RowSet {
 };
 
 struct BatchResult {
-    std::vector<RowSet> rowSets;    // in the order of the statements that gave them
+    std::optional<RowSet> rows;     // of the first statement that gave some
     std::int64_t rowsChanged = -1;  // by the last statement; -1 if it changes none
 };
 
-enum class KeepRows { None, First, All };
+enum class KeepRows { No, Yes };
 
 class BatchRunner {
   public:

@@ -126,25 +126,15 @@ EmbeddedConnection::Opened& EmbeddedConnection::Required() const
 
 std::int64_t EmbeddedConnection::Execute(const std::string& sql)
 {
-    return Required().Run(sql, KeepRows::None).rowsChanged;
+    return Required().Run(sql, KeepRows::No).rowsChanged;
 }
 
 std::unique_ptr<Recordset> EmbeddedConnection::OpenRecordset(const std::string& sql, CursorLocation,
                                                              CursorType type, LockType)
 {
     Opened& opened = Required();
-    BatchResult result = opened.Run(sql, KeepRows::First);
-    return opened.Hand(result.rowSets.empty() ? RowSet{} : std::move(result.rowSets.front()), type);
-}
-
-std::vector<std::unique_ptr<Recordset>> EmbeddedConnection::OpenAll(const std::string& sql)
-{
-    Opened& opened = Required();
-    BatchResult result = opened.Run(sql, KeepRows::All);
-    std::vector<std::unique_ptr<Recordset>> recordsets;
-    for (RowSet& rows : result.rowSets)
-        recordsets.push_back(opened.Hand(std::move(rows), CursorType::Static));
-    return recordsets;
+    BatchResult result = opened.Run(sql, KeepRows::Yes);
+    return opened.Hand(std::move(result.rows).value_or(RowSet{}), type);
 }
 
 std::string EmbeddedConnection::Explain(const std::string& sql)

@@ -5,7 +5,6 @@
 
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace kavelin::embedded {
 
@@ -39,9 +38,6 @@ class EmbeddedConnection : public Connection {
                                              LockType lock) override;
 
     void Cancel() noexcept override;
-
-    // The rows of every statement of the batch that gives some, in order, as static sets.
-    std::vector<std::unique_ptr<Recordset>> OpenAll(const std::string& sql);
 
     // The DuckDB statements that the batch becomes, as the account stands now. Nothing is run, so a
     // statement that reads what an earlier one of the batch makes is an error. Throws DatabaseError.

@@ -31,6 +31,10 @@ if(KAVELIN_SANITIZE)
                            -fno-omit-frame-pointer $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     target_link_options(kavelin_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(KAVELIN_FUZZERS)
+    # libFuzzer follows the paths that a text takes through what is compiled with it.
+    target_compile_options(kavelin_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 function(kavelin_link_headers room)
     set(folder ${KAVELIN_ROOMS}/${room})

@@ -12,6 +12,17 @@
 
 namespace kavelin::embedded {
 
+// The databases that every connection sees, and the connection's own tables.
+enum class Database { Account, System, Tempdb, Connection };
+
+// A column of a table or view, named for others to look it up.
+struct ColumnOrigin {
+    Database database;
+    std::string object, column;
+
+    bool operator==(const ColumnOrigin&) const = default;
+};
+
 struct ColumnInfo {
     std::string name;  // as declared
     SqlType type;
@@ -19,10 +30,10 @@ struct ColumnInfo {
     bool identity = false;
     std::optional<std::string> defaultSql;  // DuckDB's text of the default value
     TextFacts facts;
+    // Of a view: the columns that its texts come from. Of `facts` holds what all of them have when a statement
+    // is translated, since a table may lose facts at any time.
+    std::vector<ColumnOrigin> origins = {};
 };
-
-// The databases that every connection sees, and the connection's own tables.
-enum class Database { Account, System, Tempdb, Connection };
 
 enum class ObjectKind { Table, View };
 
@@ -32,6 +43,7 @@ struct ObjectInfo {
     std::string name;      // as created; `#x` keeps its sign
     std::string duckName;  // in full and quoted: "account"."main"."IA_Subsidiary"
     std::vector<ColumnInfo> columns;
+    std::vector<std::string> primaryKey = {};  // of a table in memory; one in the file has it there
 };
 
 class Catalog {

@@ -3,7 +3,8 @@
 // A connection is made by NewConnection and opened with `Embedded Account=PATH;Locale=zh-CN`. All connections
 // of a process to one account share one database, whose tempdb ends with it. New tables are kept in memory
 // until the last connection closes; a host that opens connection after connection holds an EmbeddedAccount
-// meanwhile, which keeps the database open between them. One process at a time has an account open.
+// meanwhile, which keeps the database open between them. One process at a time has an account open. All of
+// an account must be closed before main ends: what DuckDB keeps for the thread is gone then.
 #pragma once
 
 #include "embedded/Catalog.h"

@@ -29,6 +29,10 @@ constexpr CasePairs kCasePairs[] = {
 
 char32_t Lower(char32_t c)
 {
+    if (c < 0x80)  // nearly all that comes; names are compared by the thousand
+        return c >= U'A' && c <= U'Z' ? c + 32 : c;
+    if (c > 0x042F && c < 0xFF21)  // Chinese
+        return c;
     for (const CaseBlock& block : kCaseBlocks)
         if (c >= block.first && c <= block.last)
             return c + block.distance;

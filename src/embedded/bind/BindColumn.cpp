@@ -2,6 +2,7 @@
 #include "embedded/bind/BindNames.h"
 #include "embedded/bind/Binder.h"
 #include "embedded/bind/BoundBuild.h"
+#include "embedded/bind/Facts.h"
 #include "frame/Text.h"
 
 namespace kavelin::embedded {
@@ -37,7 +38,10 @@ void NoteColumn(Scope& scope, Scope& home)
 
 BoundExprPtr ColumnOf(const Source& source, const ColumnInfo& column, Place place, const Scope& scope)
 {
-    const TextFacts facts = scope.Context().forView && source.object ? TextFacts{} : column.facts;
+    const BindContext& context = scope.Context();
+    const TextFacts facts = !source.object || !column.type.IsText() ? column.facts
+                            : context.assumedFacts                  ? *context.assumedFacts
+                                                                    : FactsNow(column, context.Objects());
     return MakeBound(BoundColumn{source.number, column.name}, column.type, column.nullable || source.missing,
                      place, facts);
 }

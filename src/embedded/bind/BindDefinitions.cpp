@@ -105,7 +105,7 @@ void AddKeyColumn(BoundCreateTable& bound, const Name& name, bool writtenNull)
             name.place);
     ColumnInfo& column = bound.made.columns[*position];
     column.nullable = false;
-    bound.primaryKey.push_back(column.name);
+    bound.made.primaryKey.push_back(column.name);
 }
 
 void SetPrimaryKey(BoundCreateTable& bound, const CreateTableStatement& create)
@@ -114,7 +114,7 @@ void SetPrimaryKey(BoundCreateTable& bound, const CreateTableStatement& create)
         const ColumnDefinition& definition = create.columns[i];
         if (!definition.primaryKey)
             continue;
-        if (!bound.primaryKey.empty() || !create.primaryKey.empty())
+        if (!bound.made.primaryKey.empty() || !create.primaryKey.empty())
             throw SqlError(8110,
                            "Cannot add multiple PRIMARY KEY constraints to table '" + bound.made.name + "'.",
                            definition.name.place);
@@ -160,7 +160,8 @@ const ObjectInfo& ObjectToDrop(const ObjectName& name, bool view, const BindCont
 {
     const ObjectInfo* object = FindObject(name, context);
     const std::string kind = view ? "view" : "table";
-    if (!object)
+    const bool isSystems = object && EqualsNoCase(object->name, "sysobjects");
+    if (!object || isSystems)
         throw SqlError(3701,
                        "Cannot drop the " + kind + " '" + WrittenName(name) +
                            "', because it does not exist or you do not have permission.",
@@ -189,6 +190,7 @@ BoundCreateTable BindCreateTable(const CreateTableStatement& create, BindContext
 BoundCreateView BindCreateView(const CreateViewStatement& create, BindContext& context)
 {
     context.forView = true;
+    context.assumedFacts = TextFacts{};
     BoundCreateView bound;
     bound.made = NewObject(create.view, ObjectKind::View, context);
     if (bound.made.database == Database::Connection)
@@ -196,6 +198,12 @@ BoundCreateView BindCreateView(const CreateViewStatement& create, BindContext& c
                        create.view.place);
     bound.query = BindQuery(*create.query, QueryUse::View, context, nullptr);
     bound.made.columns = NamedColumns(*bound.query, bound.made.name, create.view.place, ViewColumnError);
+
+    BindContext hopeful(context.Objects());
+    hopeful.forView = true;
+    hopeful.assumedFacts = TextFacts{true, true};
+    const BoundQueryPtr query = BindQuery(*create.query, QueryUse::View, hopeful, nullptr);
+    SetOrigins(bound.made.columns, *query, hopeful.objects);
     return bound;
 }
 
@@ -217,7 +225,7 @@ BoundCreateIndex BindCreateIndex(const CreateIndexStatement& create, BindContext
             throw SqlError(1911,
                            "Column name '" + name.text + "' does not exist in the target table or view.",
                            name.place);
-        bound.columns.push_back(table->columns[*position].name);
+        bound.columns.push_back(table->columns[*position]);
     }
     return bound;
 }

@@ -81,6 +81,7 @@ BoundSourcePtr BindNamedTable(const NamedTable& table, Place place, Scope& scope
     source.name = table.alias ? table.alias->text : table.name.object.text;
     source.aliased = table.alias.has_value();
     source.object = &object;
+    scope.Context().objects.emplace(source.number, &object);
     const int number = scope.Add(std::move(source), place).number;
     return MakeSource(BoundTable{number, object.duckName});
 }

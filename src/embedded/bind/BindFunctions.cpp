@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 #include <string>
 
 namespace kavelin::embedded {
@@ -246,6 +247,29 @@ BoundExprPtr BindFunction(const FunctionCall& call, Place place, Scope& scope)
         return known.make(std::move(arguments), place, scope);
     }
     RefuseUnknown(call.function, place);
+}
+
+BoundCreateFunction BindCreateFunction(const CreateFunctionStatement& create, BindContext& context)
+{
+    const std::string& name = create.function.object.text;
+    const bool known =
+        std::any_of(std::begin(kFunctions), std::end(kFunctions), [&](const KnownFunction& function) {
+            return function.ofSchema && EqualsNoCase(function.name, name);
+        });
+    if (!known || DatabaseOf(create.function) != Database::Account)
+        throw SqlError(102,
+                       "The embedded engine takes the declaration of DBO.UDF_GetLocaleID() only, not of '" +
+                           WrittenName(create.function) + "'.",
+                       create.function.place);
+    ColumnInfo answer;
+    answer.name = name;
+    answer.type = TypeOf(create.returns, TypeUse::Definition);
+    if (answer.type != TextType(true, kLocaleLength))
+        throw SqlError(102, "DBO.UDF_GetLocaleID() returns nvarchar(10).", create.returns.place);
+    Scope scope(context, nullptr);
+    scope.clause = Clause::Values;
+    Assign(BindValue(*create.answer, scope), answer);
+    return {name};
 }
 
 }  // namespace kavelin::embedded

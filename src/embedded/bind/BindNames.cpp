@@ -63,8 +63,9 @@ ObjectInfo NewObject(const ObjectName& name, ObjectKind kind, const BindContext&
 
 std::optional<std::size_t> ColumnPosition(const std::vector<ColumnInfo>& columns, const Name& name)
 {
+    // A letter has as many bytes in either case, so names of other lengths need not be looked at.
     for (std::size_t i = 0; i < columns.size(); ++i)
-        if (EqualsNoCase(columns[i].name, name.text))
+        if (columns[i].name.size() == name.text.size() && EqualsNoCase(columns[i].name, name.text))
             return i;
     return std::nullopt;
 }

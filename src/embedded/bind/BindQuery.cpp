@@ -3,6 +3,7 @@
 #include "embedded/bind/BoundBuild.h"
 #include "embedded/bind/Conversions.h"
 #include "embedded/bind/Facts.h"
+#include "embedded/bind/RunningSums.h"
 #include "embedded/bind/TypeRules.h"
 #include "frame/Text.h"
 
@@ -86,6 +87,7 @@ BoundSelect BindSelect(const Select& select, const std::vector<OrderItem>& order
             useKeys(order.expression, Clause::OrderBy);
     }
     SettleOrder(boundOrder, bound);
+    UseRunningSums(bound, boundOrder, scope);
     return bound;
 }
 

@@ -22,6 +22,10 @@ struct StatementBinder {
         return BindCreateTable(node, context);
     }
     BoundStatement operator()(const CreateViewStatement& node) const { return BindCreateView(node, context); }
+    BoundStatement operator()(const CreateFunctionStatement& node) const
+    {
+        return BindCreateFunction(node, context);
+    }
     BoundStatement operator()(const CreateIndexStatement& node) const
     {
         return BindCreateIndex(node, context);

@@ -115,6 +115,9 @@ BoundUpdate BindUpdate(const UpdateStatement& update, BindContext& context);
 BoundDelete BindDelete(const DeleteStatement& statement, BindContext& context);
 BoundCreateTable BindCreateTable(const CreateTableStatement& create, BindContext& context);
 BoundCreateView BindCreateView(const CreateViewStatement& create, BindContext& context);
+// A server needs the declaration of DBO.UDF_GetLocaleID(); here it is taken and changes nothing, since the
+// function answers the connection's language. Any other function is refused.
+BoundCreateFunction BindCreateFunction(const CreateFunctionStatement& create, BindContext& context);
 BoundCreateIndex BindCreateIndex(const CreateIndexStatement& create, BindContext& context);
 BoundAlterColumn BindAlterColumn(const AlterColumnStatement& alter, BindContext& context);
 BoundAddColumns BindAddColumns(const AddColumnsStatement& add, BindContext& context);

@@ -8,7 +8,7 @@ namespace kavelin::embedded {
 namespace {
 
 // A statement has a clause a line and an item a line; a query within an expression is one line.
-enum class Layout { Lines, OneLine };
+enum class Layout { Lines, TypesBehind, OneLine };
 
 std::string QueryText(const BoundQuery& query, Layout layout);
 
@@ -126,6 +126,12 @@ struct ExpressionText {
         return Typed(std::string(NameOf(node.kind)) + "(" + (node.distinct ? "distinct " : "") + argument +
                      ")");
     }
+    std::string operator()(const BoundRunning& node) const
+    {
+        return Typed("running(" + ToText(*node.aggregate) +
+                     (node.partition.empty() ? "" : " by " + AllText(node.partition)) + " up to " +
+                     ToText(*node.order) + ")");
+    }
     std::string operator()(const BoundIdentity&) const { return Typed("identity"); }
     std::string operator()(const BoundScalarSubquery& node) const
     {
@@ -184,9 +190,9 @@ std::string SourceText(const BoundSource& source)
            (nested ? "(" + right + ")" : right) + " on " + ToText(*join.on);
 }
 
-std::string ColumnText(const std::string& name, const SqlType& type, bool nullable, const TextFacts& facts)
+std::string TypeText(const SqlType& type, bool nullable, const TextFacts& facts)
 {
-    return (name.empty() ? "-" : name) + ": " + ToText(type) + (nullable ? "" : " not null") +
+    return ToText(type) + (nullable ? "" : " not null") +
            (type.IsText() && facts.noTrailingBlanks ? " trimmed" : "") +
            (type.IsText() && facts.noCase ? " caseless" : "");
 }
@@ -196,8 +202,10 @@ std::string ItemText(const BoundItem& item, Layout layout)
     const BoundExpr& expression = *item.expression;
     if (layout == Layout::OneLine)
         return ToText(expression) + (item.name.empty() ? "" : " as " + item.name);
-    return "  " + ColumnText(item.name, expression.type, expression.nullable, expression.facts) + " = " +
-           ToText(expression);
+    const std::string name = "  " + (item.name.empty() ? "-" : item.name);
+    const std::string type = TypeText(expression.type, expression.nullable, expression.facts);
+    return layout == Layout::TypesBehind ? name + " = " + ToText(expression) + "\t" + type
+                                         : name + ": " + type + " = " + ToText(expression);
 }
 
 std::string FromText(const std::vector<BoundSourcePtr>& from)
@@ -220,7 +228,7 @@ std::string OrderText(const std::vector<BoundOrder>& orderBy)
 
 std::string SelectText(const BoundSelect& select, Layout layout)
 {
-    const std::string between = layout == Layout::Lines ? "\n" : " ";
+    const std::string between = layout == Layout::OneLine ? " " : "\n";
     std::string text = "select";
     if (select.distinct)
         text += " distinct";
@@ -229,7 +237,7 @@ std::string SelectText(const BoundSelect& select, Layout layout)
     std::vector<std::string> items;
     for (const BoundItem& item : select.items)
         items.push_back(ItemText(item, layout));
-    text += between + Joined(items, layout == Layout::Lines ? "\n" : ", ");
+    text += between + Joined(items, layout == Layout::OneLine ? ", " : "\n");
     if (!select.from.empty())
         text += between + FromText(select.from);
     if (select.where)
@@ -243,7 +251,7 @@ std::string SelectText(const BoundSelect& select, Layout layout)
 
 std::string QueryText(const BoundQuery& query, Layout layout)
 {
-    const std::string between = layout == Layout::Lines ? "\n" : " ";
+    const std::string between = layout == Layout::OneLine ? " " : "\n";
     std::string text;
     for (std::size_t i = 0; i < query.selects.size(); ++i) {
         if (i > 0)
@@ -257,26 +265,37 @@ std::string QueryText(const BoundQuery& query, Layout layout)
 
 // --- statements --------------------------------------------------------------------------------
 
-std::string ObjectText(const ObjectInfo& object)
+std::string OriginsText(const ColumnInfo& column)
+{
+    std::vector<std::string> origins;
+    for (const ColumnOrigin& origin : column.origins)
+        origins.push_back(origin.object + "." + origin.column);
+    return origins.empty() ? "" : " as " + Joined(origins, ", ");
+}
+
+std::string ObjectText(const ObjectInfo& object, Layout layout)
 {
     std::string text = object.duckName;
     for (const ColumnInfo& column : object.columns)
-        text += "\n  " + ColumnText(column.name, column.type, column.nullable, column.facts) +
+        text += "\n  " + column.name + (layout == Layout::TypesBehind ? "\t" : ": ") +
+                TypeText(column.type, column.nullable, column.facts) + OriginsText(column) +
                 (column.identity ? " identity" : "") +
                 (column.defaultSql ? " default " + *column.defaultSql : "");
     return text;
 }
 
-std::string WeakenedText(const std::optional<ObjectInfo>& weakened)
+std::string WeakenedText(const std::optional<ObjectInfo>& weakened, Layout layout)
 {
-    return weakened ? "\nweakens " + ObjectText(*weakened) : "";
+    return weakened ? "\nweakens " + ObjectText(*weakened, layout) : "";
 }
 
 struct StatementText {
-    std::string operator()(const BoundRows& node) const { return QueryText(*node.query, Layout::Lines); }
+    Layout layout;
+
+    std::string operator()(const BoundRows& node) const { return QueryText(*node.query, layout); }
     std::string operator()(const BoundSelectInto& node) const
     {
-        return "make " + ObjectText(node.made) + "\n" + QueryText(*node.query, Layout::Lines);
+        return "make " + ObjectText(node.made, layout) + "\n" + QueryText(*node.query, layout);
     }
     std::string operator()(const BoundInsert& node) const
     {
@@ -284,10 +303,10 @@ struct StatementText {
         if (node.identityColumn)
             text += " numbering " + *node.identityColumn;
         if (node.query)
-            text += "\n" + QueryText(*node.query, Layout::Lines);
+            text += "\n" + QueryText(*node.query, layout);
         for (const auto& row : node.values)
             text += "\nvalues " + AllText(row);
-        return text + WeakenedText(node.weakened);
+        return text + WeakenedText(node.weakened, layout);
     }
     std::string operator()(const BoundUpdate& node) const
     {
@@ -297,7 +316,7 @@ struct StatementText {
         text += "\n" + FromText(node.from);
         if (node.where)
             text += "\nwhere " + ToText(*node.where);
-        return text + WeakenedText(node.weakened);
+        return text + WeakenedText(node.weakened, layout);
     }
     std::string operator()(const BoundDelete& node) const
     {
@@ -306,25 +325,29 @@ struct StatementText {
     }
     std::string operator()(const BoundCreateTable& node) const
     {
-        return "create " + ObjectText(node.made) +
-               (node.primaryKey.empty() ? "" : "\nprimary key " + Joined(node.primaryKey, ", "));
+        return "create " + ObjectText(node.made, layout) +
+               (node.made.primaryKey.empty() ? "" : "\nprimary key " + Joined(node.made.primaryKey, ", "));
     }
     std::string operator()(const BoundCreateView& node) const
     {
-        return "create view " + ObjectText(node.made) + "\n" + QueryText(*node.query, Layout::Lines);
+        return "create view " + ObjectText(node.made, layout) + "\n" + QueryText(*node.query, layout);
     }
+    std::string operator()(const BoundCreateFunction& node) const { return "function " + node.name; }
     std::string operator()(const BoundCreateIndex& node) const
     {
+        std::vector<std::string> names;
+        for (const ColumnInfo& column : node.columns)
+            names.push_back(column.name);
         return std::string("create ") + (node.unique ? "unique " : "") + "index " + node.index + " on " +
-               node.duckName + " (" + Joined(node.columns, ", ") + ")";
+               node.duckName + " (" + Joined(names, ", ") + ")";
     }
     std::string operator()(const BoundAlterColumn& node) const
     {
-        return "alter column " + node.column + " of " + ObjectText(node.table);
+        return "alter column " + node.column + " of " + ObjectText(node.table, layout);
     }
     std::string operator()(const BoundAddColumns& node) const
     {
-        return "add " + Joined(node.added, ", ") + " to " + ObjectText(node.table);
+        return "add " + Joined(node.added, ", ") + " to " + ObjectText(node.table, layout);
     }
     std::string operator()(const BoundDrop& node) const
     {
@@ -344,7 +367,12 @@ std::string ToText(const BoundExpr& expression)
 
 std::string ToText(const BoundStatement& statement)
 {
-    return std::visit(StatementText{}, statement);
+    return std::visit(StatementText{Layout::Lines}, statement);
+}
+
+std::string ToTextWithTypesBehind(const BoundStatement& statement)
+{
+    return std::visit(StatementText{Layout::TypesBehind}, statement);
 }
 
 }  // namespace kavelin::embedded

@@ -16,6 +16,10 @@
 namespace kavelin::embedded {
 
 std::string ToText(const BoundStatement& statement);
+
+// The same with the type of an item or column behind it, a tab between.
+std::string ToTextWithTypesBehind(const BoundStatement& statement);
+
 std::string ToText(const BoundExpr& expression);
 
 }  // namespace kavelin::embedded

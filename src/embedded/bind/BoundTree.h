@@ -94,6 +94,14 @@ struct BoundAggregate {
     BoundExprPtr argument;  // null for CountRows
 };
 
+// An aggregate over the rows of the same partition that come no later in the order; those that tie with the
+// row are among them. No T-SQL says it here: the binder puts it in place of costly joins, see RunningSums.h.
+struct BoundRunning {
+    BoundExprPtr aggregate;
+    std::vector<BoundExprPtr> partition;
+    BoundExprPtr order;
+};
+
 // The number of the row, in the order of the statement; only in a select into.
 struct BoundIdentity {
     std::int64_t seed = 1, increment = 1;
@@ -143,9 +151,9 @@ struct BoundExists {
 
 struct BoundExpr {
     std::variant<BoundLiteral, BoundColumn, BoundGroupKey, BoundConversion, BoundArithmetic, BoundConcat,
-                 BoundNegation, BoundDayDifference, BoundCase, BoundFunction, BoundAggregate, BoundIdentity,
-                 BoundScalarSubquery, BoundComparison, BoundLogical, BoundNot, BoundNullTest, BoundBetween,
-                 BoundInList, BoundInQuery, BoundLike, BoundExists>
+                 BoundNegation, BoundDayDifference, BoundCase, BoundFunction, BoundAggregate, BoundRunning,
+                 BoundIdentity, BoundScalarSubquery, BoundComparison, BoundLogical, BoundNot, BoundNullTest,
+                 BoundBetween, BoundInList, BoundInQuery, BoundLike, BoundExists>
         node;
     SqlType type;
     bool nullable = true;
@@ -255,17 +263,20 @@ struct BoundDelete {
 
 struct BoundCreateTable {
     ObjectInfo made;  // defaults already as DuckDB's text
-    std::vector<std::string> primaryKey;
 };
 struct BoundCreateView {
     ObjectInfo made;
     BoundQueryPtr query;
 };
+// The declaration of a function that the engine has anyhow.
+struct BoundCreateFunction {
+    std::string name;
+};
 struct BoundCreateIndex {
     std::string duckName;  // of the table
     std::string index;
     bool unique = false;
-    std::vector<std::string> columns;
+    std::vector<ColumnInfo> columns;
 };
 struct BoundAlterColumn {
     ObjectInfo table;  // as it is afterwards
@@ -279,9 +290,9 @@ struct BoundDrop {
     std::vector<ObjectInfo> objects;
 };
 
-using BoundStatement =
-    std::variant<BoundRows, BoundSelectInto, BoundInsert, BoundUpdate, BoundDelete, BoundCreateTable,
-                 BoundCreateView, BoundCreateIndex, BoundAlterColumn, BoundAddColumns, BoundDrop>;
+using BoundStatement = std::variant<BoundRows, BoundSelectInto, BoundInsert, BoundUpdate, BoundDelete,
+                                    BoundCreateTable, BoundCreateView, BoundCreateFunction, BoundCreateIndex,
+                                    BoundAlterColumn, BoundAddColumns, BoundDrop>;
 
 // The binder's entry. Throws SqlError. `text` is the batch that the tree was made of.
 BoundStatement Bind(const Statement& statement, std::string_view text, const Catalog& catalog);

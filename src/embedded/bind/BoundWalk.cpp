@@ -35,6 +35,12 @@ struct OperandWalk {
     void operator()(BoundInQuery& node) const { One(node.operand); }
     void operator()(BoundAggregate& node) const { One(node.argument); }
     void operator()(BoundFunction& node) const { All(node.arguments); }
+    void operator()(BoundRunning& node) const
+    {
+        One(node.aggregate);
+        All(node.partition);
+        One(node.order);
+    }
     void operator()(BoundCase& node) const
     {
         for (BoundWhen& branch : node.branches) {

@@ -4,7 +4,18 @@
 #include "embedded/TextFacts.h"
 #include "embedded/bind/BoundTree.h"
 
+#include <map>
+#include <vector>
+
 namespace kavelin::embedded {
+
+// The facts of a table's or view's column as they are now.
+TextFacts FactsNow(const ColumnInfo& column, const Catalog& catalog);
+
+// Sets `origins` and `facts` of the columns of a view: `query` is the view's, bound as if the columns of all
+// objects had all facts; `objects` are those objects by the numbers of the query's sources.
+void SetOrigins(std::vector<ColumnInfo>& columns, BoundQuery& query,
+                const std::map<int, const ObjectInfo*>& objects);
 
 // Whether a column of those facts loses one when the value is stored in it.
 bool Weakens(const TextFacts& column, const TextFacts& value);

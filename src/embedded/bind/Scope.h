@@ -7,6 +7,8 @@
 
 #include <cstddef>
 #include <deque>
+#include <map>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -41,6 +43,12 @@ class BindContext {
 
     // A view outlives the facts of the columns below it, and the language of the connection that makes it.
     bool forView = false;
+
+    // What is taken as known of every text column of an object, in place of what is.
+    std::optional<TextFacts> assumedFacts;
+
+    // The tables and views of FROMs by their sources' numbers.
+    std::map<int, const ObjectInfo*> objects;
 
   private:
     const Catalog& objCatalog;

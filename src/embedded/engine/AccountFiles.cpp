@@ -46,18 +46,29 @@ bool CanWriteFile(const fs::path& file)
     return std::ofstream(file, std::ios::in | std::ios::out | std::ios::binary).good();
 }
 
+ConnectionError NoAccount(const std::string& path)
+{
+    return Refusal("The file '" + path + "' is no account.");
+}
+
 void Attach(Session& session, const std::string& path, std::string_view name)
 {
+    session.Run("ATTACH " + QuoteText(path) + " AS " + QuoteName(name) + " (TYPE duckdb, READ_WRITE)");
+}
+
+// Attaches a file that is there, or tells why it cannot be.
+void Open(Session& session, const std::string& path, std::string_view name)
+{
     try {
-        session.Run("ATTACH " + QuoteText(path) + " AS " + QuoteName(name) + " (TYPE duckdb, READ_WRITE)");
+        Attach(session, path, name);
     } catch (const DuckError& error) {
         const std::string message = error.what();
         if (message.find("Could not set lock on file") != std::string::npos)
             throw Refusal("The account '" + path + "' is in use by another program.");
         if (message.find("not a valid DuckDB database file") != std::string::npos ||
             message.find("IO Error") == std::string::npos)
-            throw Refusal("The file '" + path + "' is no account.");
-        throw Refusal("The account '" + path + "' cannot be opened: " + message);
+            throw NoAccount(path);
+        throw Refusal("The account '" + path + "' cannot be opened: " + WordsOf(error));
     }
 }
 
@@ -67,7 +78,7 @@ void CheckMark(Session& session, const std::string& path, std::string_view name)
         session.Run("SELECT comment FROM duckdb_sequences() WHERE database_name = " + QuoteText(name) +
                     " AND sequence_name = " + QuoteText(kMark));
     if (marks.RowCount() != 1)
-        throw Refusal("The file '" + path + "' is no account.");
+        throw NoAccount(path);
     const Value version = marks.Get(0, 0);
     if (version != Value(kVersion))
         throw Refusal("The account '" + path + "' was made by another version of this program.");
@@ -107,7 +118,7 @@ std::string CheckedAccountPath(const std::string& path)
         if (!fs::exists(status))
             throw Refusal("There is no account '" + path + "': the file '" + file + "' is missing.");
         if (!fs::is_regular_file(status))
-            throw Refusal("The file '" + file + "' is no account.");
+            throw NoAccount(file);
     }
     return TextOf(canonical);
 }
@@ -119,9 +130,9 @@ void AttachAccount(Session& session, const std::string& accountPath)
         !CanWriteIn(PathOf(accountPath).parent_path()))
         throw Refusal("The account '" + accountPath +
                       "' cannot be written; its folder must be writable too.");
-    Attach(session, accountPath, kAccountName);
+    Open(session, accountPath, kAccountName);
     CheckMark(session, accountPath, kAccountName);
-    Attach(session, systemPath, kSystemName);
+    Open(session, systemPath, kSystemName);
     CheckMark(session, systemPath, kSystemName);
 }
 
@@ -143,11 +154,11 @@ void CreateAccountFiles(const std::string& path)
         Session session(database);
         MakeFile(session, path, kAccountName);
         MakeFile(session, systemPath, kSystemName);
-    } catch (const std::exception& failure) {
+    } catch (const DuckError& failure) {
         for (const std::string& file : {path, systemPath})
             for (const char* ending : {"", ".wal"})
                 fs::remove(PathOf(file + ending), error);
-        throw Refusal("The account '" + path + "' cannot be made: " + failure.what());
+        throw Refusal("The account '" + path + "' cannot be made: " + WordsOf(failure));
     }
 }
 

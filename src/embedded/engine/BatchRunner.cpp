@@ -11,13 +11,6 @@ namespace kavelin::embedded {
 
 namespace {
 
-// Views and indexes lie in the account's file, and so must what they stand on.
-bool NeedsTablesInFile(const Statement& statement)
-{
-    return std::holds_alternative<CreateViewStatement>(statement.node) ||
-           std::holds_alternative<CreateIndexStatement>(statement.node);
-}
-
 // Where T-SQL lets a statement wait for another connection's, DuckDB fails it. It is run again then: each
 // statement commits by itself, so a failed one has left nothing.
 constexpr int kAttempts = 200;
@@ -46,6 +39,12 @@ std::optional<std::string> CommentAfter(const CatalogChange& change, const Catal
 }
 
 }  // namespace
+
+bool NeedsTablesInFile(const Statement& statement)
+{
+    return std::holds_alternative<CreateViewStatement>(statement.node) ||
+           std::holds_alternative<CreateIndexStatement>(statement.node);
+}
 
 BatchRunner::BatchRunner(Instance& instance, Session& session, ObjectMap& own, std::string locale)
     : objInstance(instance), objSession(session), dicOwn(own), strLocale(std::move(locale))
@@ -78,6 +77,13 @@ void BatchRunner::RunStatement(const Statement& statement, KeepRows keep, BatchR
         result.rowsChanged = -1;
         if (GivesARow(*test->query) != test->negated)
             RunStatement(*test->then, keep, result);
+        return;
+    }
+    // The tables may lie in several databases, and DuckDB's transaction changes one only.
+    const auto* drop = std::get_if<DropStatement>(&statement.node);
+    if (drop && drop->objects.size() > 1) {
+        for (const ObjectName& object : drop->objects)
+            RunStatement({DropStatement{drop->view, {object}}, statement.place}, keep, result);
         return;
     }
     for (int attempt = 1;; ++attempt) {
@@ -147,33 +153,6 @@ void BatchRunner::TakeOver(const std::vector<CatalogChange>& changes)
     for (const CatalogChange& change : changes)
         if (DatabaseOf(change) == Database::Connection)
             ApplyChange(dicOwn, change);
-}
-
-std::string BatchRunner::Explain(const std::string& batch)
-{
-    strBatch = batch;
-    try {
-        std::string text;
-        for (const StatementPtr& statement : ParseBatch(batch))
-            ExplainStatement(*statement, text);
-        return text;
-    } catch (const SqlError& error) {
-        throw DatabaseError(DetailsOf(error, batch));
-    }
-}
-
-void BatchRunner::ExplainStatement(const Statement& statement, std::string& text) const
-{
-    const auto* test = std::get_if<IfExistsStatement>(&statement.node);
-    const CatalogView catalog = View(NeedsTablesInFile(statement));
-    const StatementPlan plan =
-        test ? TranslateQuery(*test->query, strBatch, catalog) : Translate(statement, strBatch, catalog);
-    for (const std::string& step : plan.steps)
-        text += step + ";\n";
-    if (test) {
-        text += test->negated ? "-- if no row came:\n" : "-- if a row came:\n";
-        ExplainStatement(*test->then, text);
-    }
 }
 
 }  // namespace kavelin::embedded

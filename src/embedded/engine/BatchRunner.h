@@ -28,6 +28,9 @@ struct BatchResult {
 
 enum class KeepRows { No, Yes };
 
+// Views and indexes lie in the account's file, and so must what they stand on.
+bool NeedsTablesInFile(const Statement& statement);
+
 class BatchRunner {
   public:
     // All must outlive the runner. `own` are the connection's own tables.
@@ -37,16 +40,11 @@ class BatchRunner {
     // if the session was interrupted.
     BatchResult Run(const std::string& batch, KeepRows keep);
 
-    // The DuckDB statements that the batch becomes, as the catalogue stands now; nothing is run. Throws
-    // DatabaseError.
-    std::string Explain(const std::string& batch);
-
   private:
     void RunStatement(const Statement& statement, KeepRows keep, BatchResult& result);
     void TranslateAndRun(const Statement& statement, KeepRows keep, BatchResult& result);
     void RunPlan(const StatementPlan& plan, const Catalog& catalog, KeepRows keep, BatchResult& result);
     bool GivesARow(const Query& query);
-    void ExplainStatement(const Statement& statement, std::string& text) const;
     CatalogView View(bool intoFile) const;
     void TakeOver(const std::vector<CatalogChange>& changes);
 

@@ -134,6 +134,12 @@ std::string WriteColumns(const std::vector<ColumnInfo>& columns)
             text += '=';
             AppendField(text, *column.defaultSql);
         }
+        for (const ColumnOrigin& origin : column.origins) {
+            text += '|' + std::to_string(static_cast<int>(origin.database)) + '|';
+            AppendField(text, origin.object);
+            text += '|';
+            AppendField(text, origin.column);
+        }
     }
     return text;
 }
@@ -145,7 +151,8 @@ std::optional<std::vector<ColumnInfo>> ReadColumns(std::string_view text)
     std::vector<ColumnInfo> columns;
     while (!text.empty()) {
         const std::vector<std::string> fields = ReadFields(TakeLine(text));
-        if (fields.size() != 4)
+        constexpr std::size_t kOwn = 4, kOfOrigin = 3;
+        if (fields.size() < kOwn || (fields.size() - kOwn) % kOfOrigin != 0)
             return std::nullopt;
         const std::optional<SqlType> type = ReadType(fields[1]);
         if (!type)
@@ -160,6 +167,13 @@ std::optional<std::vector<ColumnInfo>> ReadColumns(std::string_view text)
         column.facts = {marked('b'), marked('c')};
         if (!fields[3].empty())
             column.defaultSql = fields[3].substr(1);
+        for (std::size_t i = kOwn; i < fields.size(); i += kOfOrigin) {
+            int database = 0;
+            if (!ReadNumber(fields[i], database) || database < 0 ||
+                database > static_cast<int>(Database::Connection))
+                return std::nullopt;
+            column.origins.push_back({static_cast<Database>(database), fields[i + 1], fields[i + 2]});
+        }
         columns.push_back(std::move(column));
     }
     return columns;

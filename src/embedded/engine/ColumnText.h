@@ -5,10 +5,11 @@
 //   AutoID|int|ni|
 //   cInvCode|nvarchar(20)|bc|
 //   bCheckBatch|bit|n|=false
+//   cInvName|nvarchar(60)|b||0|Inventory|cInvName
 //
-// One line a column: name, type, marks, default. Marks: n NOT NULL, i identity, b no trailing blanks,
-// c no case. A default has `=` in front. A backslash stands before `|` and itself; `\n` and `\r` stand for
-// line ends.
+// One line a column: name, type, marks, default, and of a view's column its origins: number of the database,
+// object, column. Marks: n NOT NULL, i identity, b no trailing blanks, c no case. A default has `=` in front. A
+// backslash stands before `|` and itself; `\n` and `\r` stand for line ends.
 #pragma once
 
 #include "embedded/Catalog.h"

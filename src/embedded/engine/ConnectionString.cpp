@@ -63,8 +63,8 @@ ConnectionSettings ReadConnectionString(std::string_view text)
             settings.account = value;
         else if (EqualsNoCase(key, "Locale"))
             settings.locale = value;
-        else if (!EqualsNoCase(key, "User ID") && !EqualsNoCase(key, "UID") &&
-                 !EqualsNoCase(key, "Password") && !EqualsNoCase(key, "PWD"))
+        else if (!settings.limits.Take(key, value) && !EqualsNoCase(key, "User ID") &&
+                 !EqualsNoCase(key, "UID") && !EqualsNoCase(key, "Password") && !EqualsNoCase(key, "PWD"))
             throw Refusal("The embedded account does not know '" + std::string(key) +
                           "' in a connection string.");
     }

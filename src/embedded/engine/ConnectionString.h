@@ -1,5 +1,7 @@
-// `Embedded Account=/data/demo.kavelin;Locale=zh-CN`
+// `Embedded Account=/data/demo.kavelin;Locale=zh-CN;Memory=512`
 #pragma once
+
+#include "embedded/engine/Limits.h"
 
 #include <string>
 #include <string_view>
@@ -9,6 +11,7 @@ namespace kavelin::embedded {
 struct ConnectionSettings {
     std::string account;  // path of the account's file
     std::string locale = "zh-CN";
+    Limits limits;
 };
 
 // Keys in any case and order, each value as it is without the blanks at its ends, or quoted by ' or " with

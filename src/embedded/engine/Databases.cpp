@@ -40,7 +40,7 @@ std::string MakeView(Database database, const std::string& databases)
            " FROM duckdb_views() WHERE database_name IN (" +
            databases +
            ") AND NOT internal"
-           " AND NOT starts_with(view_name, 'sysobjects')";
+           " AND view_name NOT IN ('sysobjects', 'sysobjects_system')";
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include "embedded/engine/ConnectionString.h"
 #include "embedded/engine/EmbeddedRecordset.h"
 #include "embedded/engine/EngineErrors.h"
+#include "embedded/engine/Explain.h"
 #include "embedded/engine/Instance.h"
 #include "embedded/write/Quote.h"
 #include "frame/Errors.h"
@@ -84,7 +85,7 @@ void EmbeddedConnection::Open(const std::string&, const std::string&, std::int32
     if (objOpened)
         throw Refusal("The connection is open already.", "08002");
     ConnectionSettings settings = ReadConnectionString(strConnection);
-    std::shared_ptr<Instance> instance = Instance::Of(settings.account);
+    std::shared_ptr<Instance> instance = Instance::Of(settings.account, settings.limits);
     auto opened = std::make_unique<Opened>(instance, std::move(settings.locale));
     instance->ConnectionOpened();
     const std::lock_guard lock(objGuard->mutex);
@@ -108,7 +109,9 @@ void EmbeddedConnection::Close()
     try {
         instance->ConnectionClosed();
     } catch (const DuckError& error) {
-        throw DatabaseError(DetailsOf(error, {}, {}));
+        DatabaseError::Details details = DetailsOf(error, {}, {});
+        details.strMessage = "The new tables could not be stored in the account. " + details.strMessage;
+        throw DatabaseError(details);
     }
 }
 
@@ -140,7 +143,11 @@ std::unique_ptr<Recordset> EmbeddedConnection::OpenRecordset(const std::string& 
 std::string EmbeddedConnection::Explain(const std::string& sql)
 {
     Opened& opened = Required();
-    return BatchRunner(*opened.instance, opened.session, opened.own, opened.locale).Explain(sql);
+    try {
+        return embedded::Explain(sql, {*opened.instance->Objects().Current(), opened.own, opened.locale});
+    } catch (const SqlError& error) {
+        throw DatabaseError(DetailsOf(error, sql));
+    }
 }
 
 void EmbeddedConnection::Cancel() noexcept

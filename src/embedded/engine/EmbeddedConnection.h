@@ -39,8 +39,8 @@ class EmbeddedConnection : public Connection {
 
     void Cancel() noexcept override;
 
-    // The DuckDB statements that the batch becomes, as the account stands now. Nothing is run, so a
-    // statement that reads what an earlier one of the batch makes is an error. Throws DatabaseError.
+    // What the batch is taken to mean and the DuckDB statements that it becomes, for a reader, see Explain.h.
+    // Nothing is run. Throws DatabaseError.
     std::string Explain(const std::string& sql);
 
   private:

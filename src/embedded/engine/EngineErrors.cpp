@@ -16,20 +16,30 @@ struct State {
 constexpr State kStates[] = {
     {102, "42000"},  {105, "42000"},  {120, "21S01"},  {156, "42000"},  {191, "42000"},  {207, "42S22"},
     {208, "42S02"},  {209, "42000"},  {213, "21S01"},  {241, "22007"},  {242, "22007"},  {245, "22018"},
-    {257, "42000"},  {512, "21000"},  {515, "23000"},  {701, "HY001"},  {1038, "42000"}, {1105, "HY000"},
-    {2627, "23000"}, {2705, "42S21"}, {2714, "42S01"}, {3701, "42S02"}, {4104, "42000"}, {8114, "22018"},
-    {8115, "22003"}, {8120, "42000"}, {8134, "22012"}, {8152, "22001"},
+    {257, "42000"},  {512, "21000"},  {515, "23000"},  {701, "HY001"},  {823, "HY000"},  {824, "HY000"},
+    {1038, "42000"}, {1105, "HY000"}, {2627, "23000"}, {2705, "42S21"}, {2714, "42S01"}, {3701, "42S02"},
+    {4104, "42000"}, {8114, "22018"}, {8115, "22003"}, {8120, "42000"}, {8134, "22012"}, {8152, "22001"},
 };
 
-// Failures that no statement names: those of the machine and of the appender.
+constexpr const char* kDamaged =
+    "The account's file is damaged: what was read is not what was written. Put back a copy of it.";
+constexpr const char* kNoMemory =
+    "There is insufficient system memory to run this query. KAVELIN_MEMORY and KAVELIN_SPILL allow more.";
+
+// Failures that no statement names: those of the machine and of the appender. The first that fits counts.
 struct Failure {
     std::string_view part;
     int number;
     const char* message;
 };
 constexpr Failure kFailures[] = {
-    {"Out of Memory Error", 701, "There is insufficient system memory to run this query."},
-    {"No space left on device", 1105, "Could not store the rows: the disk is full."},
+    {"No space left on device", 1105, "The disk is full. Make room and try again."},
+    {"Out of Memory Error", 701, kNoMemory},
+    {"could not allocate block", 701, kNoMemory},  // the same from the appender
+    {"Corrupt database file", 824, kDamaged},
+    {"Could not read enough bytes", 823, kDamaged},
+    {"database has been invalidated", 1105,
+     "The account's files failed earlier, and nothing more is done with them. Open the account again."},
     {"PRIMARY KEY or UNIQUE constraint violation", 2627,
      "Violation of PRIMARY KEY constraint. Cannot insert duplicate key."},
 };
@@ -44,6 +54,8 @@ void SetNumber(DatabaseError::Details& details, int number)
 
 void SetPlace(DatabaseError::Details& details, const std::string& batch, Place place)
 {
+    if (batch.empty())
+        return;
     const LineColumn position = LineAndColumn(batch, place.offset);
     details.strStatement = batch;
     details.lngLine = static_cast<std::int32_t>(position.line);
@@ -83,6 +95,11 @@ DatabaseError::Details DetailsOf(const DuckError& error, const std::string& batc
     SetNumber(details, known.number);
     details.strMessage = known.text;
     return details;
+}
+
+std::string WordsOf(const DuckError& error)
+{
+    return DetailsOf(error, {}, {}).strMessage;
 }
 
 ConnectionError Refusal(const std::string& sentence, const std::string& sqlState)

@@ -3,8 +3,10 @@
 #include "embedded/engine/AccountFiles.h"
 #include "embedded/engine/ColumnText.h"
 #include "embedded/engine/Databases.h"
-#include "embedded/write/DuckTypes.h"
+#include "embedded/engine/EngineErrors.h"
+#include "embedded/engine/Lockdown.h"
 #include "embedded/write/Quote.h"
+#include "embedded/write/Tables.h"
 
 #include <condition_variable>
 #include <map>
@@ -22,7 +24,7 @@ bool IsIn(const ObjectInfo& object, std::string_view database)
 // second time while they are being closed.
 class Registry {
   public:
-    std::shared_ptr<Instance> Find(const std::string& path)
+    std::shared_ptr<Instance> Find(const std::string& path, const Limits& limits)
     {
         std::unique_lock lock(objMutex);
         for (;;) {
@@ -33,7 +35,7 @@ class Registry {
                 return open;
             objClosed.wait(lock);
         }
-        std::shared_ptr<Instance> made(new Instance(path), [this, path](Instance* instance) {
+        std::shared_ptr<Instance> made(new Instance(path, limits), [this, path](Instance* instance) {
             delete instance;
             const std::lock_guard erase(objMutex);
             dicInstances.erase(path);
@@ -56,34 +58,6 @@ Registry& TheRegistry()
     return *registry;
 }
 
-using PrimaryKeys = std::map<std::string, std::string>;  // table, its key columns as a list
-
-PrimaryKeys ReadWorkKeys(Session& session)
-{
-    Result rows = session.Run(
-        "SELECT table_name, unnest(constraint_column_names) FROM duckdb_constraints()"
-        " WHERE database_name = 'work' AND constraint_type = 'PRIMARY KEY'");
-    PrimaryKeys keys;
-    for (std::int64_t row = 0; row < rows.RowCount(); ++row) {
-        std::string& list = keys[*rows.Get(row, 0).As<std::string>()];
-        list += (list.empty() ? "" : ", ") + QuoteName(*rows.Get(row, 1).As<std::string>());
-    }
-    return keys;
-}
-
-std::string CreateTable(const ObjectInfo& table, const PrimaryKeys& keys)
-{
-    std::string columns;
-    for (const ColumnInfo& column : table.columns) {
-        columns += (columns.empty() ? "" : ", ") + QuoteName(column.name) + ' ' + DuckType(column.type);
-        if (column.defaultSql)
-            columns += " DEFAULT " + *column.defaultSql;
-    }
-    if (const auto key = keys.find(table.name); key != keys.end())
-        columns += ", PRIMARY KEY (" + key->second + ')';
-    return "CREATE TABLE " + table.duckName + " (" + columns + ')';
-}
-
 }  // namespace
 
 std::string CommentOn(const ObjectInfo& object)
@@ -97,27 +71,26 @@ bool IsInFile(const ObjectInfo& object)
     return IsIn(object, kAccountName) || IsIn(object, kSystemName);
 }
 
-std::shared_ptr<Instance> Instance::Of(const std::string& path)
+std::shared_ptr<Instance> Instance::Of(const std::string& path, const Limits& limits)
 {
-    return TheRegistry().Find(CheckedAccountPath(path));
+    try {
+        return TheRegistry().Find(CheckedAccountPath(path), limits.Or(Limits::OfEnvironment()));
+    } catch (const DuckError& error) {
+        throw Refusal("The account '" + path + "' cannot be opened: " + WordsOf(error));
+    }
 }
 
-Instance::Instance(const std::string& path) : strPath(path)
+Instance::Instance(const std::string& path, const Limits& limits) : strPath(path)
 {
     Session session(objDuck);
-    for (const char* setting : {
-             "SET GLOBAL autoinstall_known_extensions = false",
-             "SET GLOBAL autoload_known_extensions = false",
-             // T-SQL puts NULL first, and last in descending order.
-             "SET GLOBAL default_null_order = 'nulls_first_on_asc_last_on_desc'",
-         })
-        session.Run(setting);
-    session.Run("SET GLOBAL temp_directory = " + QuoteText(path + ".spill"));
+    Configure(session, path, limits);
     AttachAccount(session, path);
+    ClearSpill(path);
     for (const std::string_view name : {kTempdbName, kWorkName})
         session.Run("ATTACH ':memory:' AS " + QuoteName(name));
     for (const std::string& view : MakeSysObjects())
         session.Run(view);
+    LockDown(session);
     LoadCatalog(session);
 }
 
@@ -163,15 +136,16 @@ void Instance::Flush()
         return;
 
     Session session(objDuck);
-    const PrimaryKeys keys = ReadWorkKeys(session);
     std::vector<std::string> leftBehind;
     {
         Transaction transaction(session);
         for (ObjectInfo& table : tables) {
             leftBehind.push_back(table.duckName);
             table.duckName = DuckNameIn(kAccountName, table.name);
-            session.Run(CreateTable(table, keys));
+            session.Run(CreateTable(table));
             session.Run("INSERT INTO " + table.duckName + " SELECT * FROM " + leftBehind.back());
+            if (const std::optional<std::string> index = CreateKeyIndex(table))
+                session.Run(*index);
             session.Run(CommentOn(table));
         }
         transaction.Commit();

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "embedded/engine/DuckDb.h"
+#include "embedded/engine/Limits.h"
 #include "embedded/engine/SharedCatalog.h"
 
 #include <memory>
@@ -19,11 +20,12 @@ namespace kavelin::embedded {
 class Instance {
   public:
     // The instance of that account; the one that is open already if there is one. It closes with its last
-    // owner. Throws ConnectionError.
-    static std::shared_ptr<Instance> Of(const std::string& path);
+    // owner. The limits are those of who opens it first, the environment's where they say nothing. Throws
+    // ConnectionError.
+    static std::shared_ptr<Instance> Of(const std::string& path, const Limits& limits = {});
 
     // `path` as CheckedAccountPath gives it. For Of; a second instance on one file would damage it.
-    explicit Instance(const std::string& path);
+    Instance(const std::string& path, const Limits& limits);
     Instance(const Instance&) = delete;
     Instance& operator=(const Instance&) = delete;
 

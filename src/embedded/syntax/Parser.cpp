@@ -77,6 +77,21 @@ void Parser::Expect(std::initializer_list<Keyword> keywords)
             Refuse();
 }
 
+bool Parser::AcceptWord(std::string_view word)
+{
+    const bool isWord = At(TokenKind::Word) || At(TokenKind::Keyword);
+    if (!isWord || !EqualsNoCase(Here().value, word))
+        return false;
+    ++lngHere;
+    return true;
+}
+
+void Parser::ExpectWord(std::string_view word)
+{
+    if (!AcceptWord(word))
+        Refuse();
+}
+
 Place Parser::Since(std::uint32_t start) const
 {
     return {start, Last().place.offset + Last().place.length - start};

@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <initializer_list>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -50,9 +51,11 @@ class Parser {
     bool Accept(Keyword keyword);
     const Token& Expect(TokenKind kind);
     void Expect(std::initializer_list<Keyword> keywords);  // one after the other
-    Place Since(std::uint32_t start) const;                // from there to the token taken last
-    [[noreturn]] void Refuse() const;                      // the current token cannot stand here
-    [[noreturn]] void RefuseName() const;  // a name is asked for, and the current token is none
+    bool AcceptWord(std::string_view word);                // one that has no part elsewhere: `function`
+    void ExpectWord(std::string_view word);
+    Place Since(std::uint32_t start) const;  // from there to the token taken last
+    [[noreturn]] void Refuse() const;        // the current token cannot stand here
+    [[noreturn]] void RefuseName() const;    // a name is asked for, and the current token is none
     [[noreturn]] void RefuseDepth() const;
 
     template <class Node>
@@ -132,6 +135,10 @@ class Parser {
     // --- definitions (ParserDefinitions.cpp)
     Statement ParseCreate();
     CreateTableStatement ParseCreateTable();
+    void RequireFirst(std::size_t statement, const std::string& what) const;
+    void RequireLast();
+    CreateViewStatement ParseCreateView();
+    CreateFunctionStatement ParseCreateFunction();
     CreateIndexStatement ParseCreateIndex(bool unique);
     Statement ParseAlter();
     ColumnDefinition ParseColumnDefinition();

@@ -1,24 +1,58 @@
 // Statements that make, change and drop tables, views and indexes.
+#include "embedded/SqlError.h"
 #include "embedded/syntax/Parser.h"
 
 namespace kavelin::embedded {
 
 Statement Parser::ParseCreate()
 {
+    const std::size_t first = lngHere;
     Expect({Keyword::Create});
     if (Accept(Keyword::Table))
         return {ParseCreateTable(), {}};
     if (Accept(Keyword::View)) {
-        CreateViewStatement made;
-        made.view = ParseObjectName();
-        Expect({Keyword::As});
-        made.query = ParseQuery(Into::Refused);
-        RequireTopWithOrder(*made.query);
-        return {std::move(made), {}};
+        RequireFirst(first, "CREATE VIEW");
+        Statement made{ParseCreateView(), {}};
+        RequireLast();
+        return made;
+    }
+    if (AcceptWord("function")) {
+        RequireFirst(first, "CREATE FUNCTION");
+        Statement made{ParseCreateFunction(), {}};
+        RequireLast();
+        return made;
     }
     const bool unique = Accept(Keyword::Unique);
     Expect({Keyword::Index});
     return {ParseCreateIndex(unique), {}};
+}
+
+// Views and functions are alone in their batch. `statement` is the place of the first token.
+void Parser::RequireFirst(std::size_t statement, const std::string& what) const
+{
+    if (statement > 0)
+        throw SqlError(111, "'" + what + "' must be the first statement in a query batch.",
+                       objTokens[statement].place);
+}
+
+void Parser::RequireLast()
+{
+    const std::size_t end = lngHere;
+    while (Accept(TokenKind::Semicolon)) {
+    }
+    if (!At(TokenKind::End))
+        Refuse();
+    lngHere = end;
+}
+
+CreateViewStatement Parser::ParseCreateView()
+{
+    CreateViewStatement made;
+    made.view = ParseObjectName();
+    Expect({Keyword::As});
+    made.query = ParseQuery(Into::Refused);
+    RequireTopWithOrder(*made.query);
+    return made;
 }
 
 // Columns, and at most one `primary key (a, b)` among them.
@@ -36,6 +70,25 @@ CreateTableStatement Parser::ParseCreateTable()
         }
     });
     Expect(TokenKind::CloseBracket);
+    return made;
+}
+
+CreateFunctionStatement Parser::ParseCreateFunction()
+{
+    CreateFunctionStatement made;
+    made.function = ParseObjectName();
+    Expect(TokenKind::OpenBracket);
+    Expect(TokenKind::CloseBracket);
+    ExpectWord("returns");
+    made.returns = ParseType();
+    Accept(Keyword::As);
+    ExpectWord("begin");
+    ExpectWord("return");
+    if (!At(TokenKind::Text) && !At(TokenKind::NationalText) && !At(TokenKind::Number) && !At(Keyword::Null))
+        Refuse();
+    made.answer = ParsePrimary(Wanted::Value);
+    Accept(TokenKind::Semicolon);
+    Expect({Keyword::End});
     return made;
 }
 

@@ -284,6 +284,12 @@ struct CreateViewStatement {
     ObjectName view;
     QueryPtr query;
 };
+// `create function f() returns t as begin return LITERAL end`: one that takes nothing and answers a literal.
+struct CreateFunctionStatement {
+    ObjectName function;
+    TypeName returns;
+    ExprPtr answer;
+};
 struct CreateIndexStatement {
     Name index;
     bool unique = false;
@@ -310,8 +316,8 @@ struct IfExistsStatement {
 
 struct Statement {
     std::variant<SelectStatement, InsertStatement, UpdateStatement, DeleteStatement, CreateTableStatement,
-                 CreateViewStatement, CreateIndexStatement, AlterColumnStatement, AddColumnsStatement,
-                 DropStatement, IfExistsStatement>
+                 CreateViewStatement, CreateFunctionStatement, CreateIndexStatement, AlterColumnStatement,
+                 AddColumnsStatement, DropStatement, IfExistsStatement>
         node;
     Place place;
 };

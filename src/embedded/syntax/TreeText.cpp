@@ -239,6 +239,16 @@ class Writer {
         Put(" as ");
         Write(*node.query);
     }
+    void operator()(const CreateFunctionStatement& node)
+    {
+        Put("create function ");
+        Write(node.function);
+        Put("() returns ");
+        Write(node.returns);
+        Put(" as begin return ");
+        Write(*node.answer);
+        Put(" end");
+    }
     void operator()(const CreateIndexStatement& node)
     {
         Put(node.unique ? "create unique index " : "create index ");

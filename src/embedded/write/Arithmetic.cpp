@@ -116,9 +116,28 @@ std::string Writer::Product(const BoundArithmetic& arithmetic, const SqlType& ty
     // DuckDB has no product of more than 38 digits behind the point.
     const int excess = std::max(0, leftScale + rightScale - 38);
     (leftScale > rightScale ? leftScale : rightScale) -= excess;
-    const std::string product =
-        "(" + factor(leftFactor, leftScale) + " * " + factor(rightFactor, rightScale) + ")";
-    return fit == Fit::Loose && leftScale + rightScale == ScaleOf(type) ? product : Cast(product, type);
+    const std::string leftText = factor(leftFactor, leftScale);
+    const std::string rightText = factor(rightFactor, rightScale);
+    const int scale = leftScale + rightScale;
+    if (scale > ScaleOf(type) && WidthOf(left.type) + WidthOf(right.type) > 38)
+        return WideProduct(leftText, rightText, scale, type);
+    const std::string product = "(" + leftText + " * " + rightText + ")";
+    return fit == Fit::Loose && scale == ScaleOf(type) ? product : Cast(product, type);
+}
+
+// A product whose places give way to its whole digits. DuckDB has 38 digits for both, also on the way: what has
+// more whole digits than the full scale leaves room for is computed as a DOUBLE.
+std::string Writer::WideProduct(const std::string& left, const std::string& right, int scale,
+                                const SqlType& type)
+{
+    const std::string limit = "9e" + std::to_string(37 - scale);
+    return objScratch.Repeat(left, [&](const std::string& v) {
+        return objScratch.Repeat(right, [&](const std::string& w) {
+            const std::string rough = "CAST(" + v + " AS DOUBLE) * CAST(" + w + " AS DOUBLE)";
+            return "CASE WHEN abs(" + rough + ") < " + limit + " THEN " +
+                   Cast("(" + v + " * " + w + ")", type) + " ELSE " + Cast("(" + rough + ")", type) + " END";
+        });
+    });
 }
 
 std::string Writer::Division(const BoundArithmetic& arithmetic, const SqlType& type, Fit fit)

@@ -43,6 +43,8 @@ constexpr Wording kWordings[] = {
     {"Overflow in", "", 8115, "Arithmetic overflow error converting expression to data type numeric."},
     {"Duplicate key", "primary key", 2627,
      "Violation of PRIMARY KEY constraint. Cannot insert duplicate key."},
+    {"Duplicate key", "lower(rtrim(", 2627,
+     "Violation of PRIMARY KEY constraint. Cannot insert duplicate key."},
     {"Duplicate key", "", 2601, "Cannot insert duplicate key row in object with unique index."},
 };
 
@@ -77,7 +79,7 @@ SqlMessage SqlErrorOfDuck(std::string_view message)
     for (const Wording& wording : kWordings)
         if (Has(first, wording.has) && Has(first, wording.also))
             return {wording.number, std::string(wording.text)};
-    return {0, std::string(text.substr(0, text.find("\n\nLINE ")))};
+    return {0, std::string(first)};
 }
 
 }  // namespace kavelin::embedded

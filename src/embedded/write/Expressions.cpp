@@ -73,6 +73,7 @@ std::string Writer::Value(const BoundExpr& expression, Fit fit)
             [&](const BoundCase& node) { return Case(node, fit); },
             [&](const BoundFunction& node) { return Function(node, expression, fit); },
             [&](const BoundAggregate& node) { return Aggregate(node, expression, fit); },
+            [&](const BoundRunning& node) { return Running(node, expression, fit); },
             [&](const BoundIdentity& node) { return Identity(node); },
             [&](const BoundScalarSubquery& node) { return Subquery(*node.query); },
             condition,

@@ -9,24 +9,52 @@ namespace kavelin::embedded {
 
 namespace {
 
-// The identifier of an object of that name: `tempdb..x`, `VosSystem..x`, `[x]`, x, which is of the account.
+// The parts of `database.schema.[object]`, without brackets and leading blanks.
+std::vector<std::string> PartsOfName(std::string_view name)
+{
+    std::vector<std::string> parts(1);
+    bool bracketed = false;
+    for (std::size_t at = 0; at < name.size(); ++at) {
+        std::string& part = parts.back();
+        const char c = name[at];
+        if (bracketed && c == ']') {
+            bracketed = name.substr(at + 1, 1) == "]";  // doubled it is one
+            if (bracketed)
+                part += name[++at];
+        } else if (bracketed) {
+            part += c;
+        } else if (c == '[') {
+            bracketed = true;
+        } else if (c == '.') {
+            parts.emplace_back();
+        } else if (c != ' ' || !part.empty()) {
+            part += c;
+        }
+    }
+    return parts;
+}
+
+// The identifier of an object of that name: `tempdb..x`, `VosSystem.dbo.x`, `dbo.x`, `[x]`, x, which is of the
+// account; NULL of a database or schema that there is not.
 std::string ObjectIdentifier(std::string_view name)
 {
+    const std::vector<std::string> parts = PartsOfName(name);
+    const auto part = [&](std::size_t fromBehind) {
+        return parts.size() > fromBehind ? Trim(parts[parts.size() - 1 - fromBehind]) : std::string_view();
+    };
+    const std::string_view schema = part(1);
+    const std::string_view database = part(2);
     std::string_view view = R"("work"."main"."sysobjects")";
-    const std::size_t dots = name.find("..");
-    if (dots != std::string_view::npos) {
-        const std::string_view database = Trim(name.substr(0, dots));
-        if (EqualsNoCase(database, "tempdb"))
-            view = R"("tempdb"."main"."sysobjects")";
-        else if (EqualsNoCase(database, "vossystem"))
-            view = R"("work"."main"."sysobjects_system")";
-        name.remove_prefix(dots + 2);
-    }
-    name = Trim(name);
-    if (name.size() > 1 && name.front() == '[' && name.back() == ']')
-        name = name.substr(1, name.size() - 2);
+    if (EqualsNoCase(database, "tempdb"))
+        view = R"("tempdb"."main"."sysobjects")";
+    else if (EqualsNoCase(database, "vossystem"))
+        view = R"("work"."main"."sysobjects_system")";
+    else if (!database.empty())
+        return "CAST(NULL AS INTEGER)";
+    if (parts.size() > 3 || !(schema.empty() || EqualsNoCase(schema, "dbo")))
+        return "CAST(NULL AS INTEGER)";
     return "(SELECT \"id\" FROM " + std::string(view) +
-           " WHERE lower(\"name\") = " + FoldLiteral(name, CaseForm::Lower, true) + ")";
+           " WHERE lower(\"name\") = " + FoldLiteral(parts.back(), CaseForm::Lower, true) + ")";
 }
 
 const char* DatePart(BoundFunctionKind kind)
@@ -123,6 +151,20 @@ std::string Writer::Aggregate(const BoundAggregate& aggregate, const BoundExpr& 
     if (node.type.IsInteger())
         return sized("(" + sum + " // " + count + ")");
     return sized(WriteQuotient({sum, ScaleOf(argument.type)}, {count, 0}, ScaleOf(node.type)));
+}
+
+// RANGE takes in the rows that tie with the last, where ROWS would end at any one of them.
+std::string Writer::Running(const BoundRunning& running, const BoundExpr& node, Fit fit)
+{
+    std::vector<std::string> partition;
+    for (const BoundExprPtr& key : running.partition)
+        partition.push_back(key->type.IsText() ? Folded(*key) : Value(*key, Fit::Loose));
+    const auto& aggregate = std::get<BoundAggregate>(running.aggregate->node);
+    const std::string text = Aggregate(aggregate, *running.aggregate, Fit::Loose) + " OVER (" +
+                             (partition.empty() ? "" : "PARTITION BY " + Join(partition, ", ") + " ") +
+                             "ORDER BY " + Value(*running.order, Fit::Loose) +
+                             " RANGE BETWEEN UNBOUNDED PRECEDING AND CURRENT ROW)";
+    return fit == Fit::Loose ? text : Cast(text, node.type);
 }
 
 }  // namespace kavelin::embedded

@@ -49,7 +49,7 @@ StatementPlan WriteStatement(const BoundSelectInto& statement)
     const ObjectInfo& made = statement.made;
     Writer writer(made.name, "INSERT");
     StatementPlan plan;
-    plan.steps.push_back(CreateTable(made, {}));
+    plan.steps.push_back(CreateTable(made));
     plan.steps.push_back("INSERT INTO " + made.duckName + " " + writer.Query(*statement.query));
     plan.countsRows = true;
     plan.changes.emplace_back(TableMade{made});
@@ -171,9 +171,16 @@ StatementPlan WriteStatement(const BoundCreateView& statement)
 StatementPlan WriteStatement(const BoundCreateTable& statement)
 {
     StatementPlan plan;
-    plan.steps.push_back(CreateTable(statement.made, statement.primaryKey));
+    plan.steps.push_back(CreateTable(statement.made));
+    if (std::optional<std::string> index = CreateKeyIndex(statement.made))
+        plan.steps.push_back(std::move(*index));
     plan.changes.emplace_back(TableMade{statement.made});
     return plan;
+}
+
+StatementPlan WriteStatement(const BoundCreateFunction&)
+{
+    return {};
 }
 
 // An index that only serves speed is left out: DuckDB's scans don't need it, and its inserts would pay.
@@ -181,9 +188,8 @@ StatementPlan WriteStatement(const BoundCreateIndex& statement)
 {
     StatementPlan plan;
     if (statement.unique)
-        plan.steps.push_back("CREATE UNIQUE INDEX " +
-                             QuoteName(BareName(statement.duckName) + "." + statement.index) + " ON " +
-                             statement.duckName + " (" + QuotedList(statement.columns) + ")");
+        plan.steps.push_back(CreateUniqueIndex(
+            statement.duckName, BareName(statement.duckName) + "." + statement.index, statement.columns));
     return plan;
 }
 
@@ -200,7 +206,8 @@ StatementPlan WriteStatement(const BoundAddColumns& statement)
 {
     StatementPlan plan;
     for (const std::string& column : statement.added)
-        plan.steps.push_back(AddColumn(statement.table, column));
+        for (std::string& step : AddColumn(statement.table, column))
+            plan.steps.push_back(std::move(step));
     plan.changes.emplace_back(
         ColumnsChanged{statement.table.database, statement.table.name, statement.table.columns});
     return plan;

@@ -87,12 +87,15 @@ class Writer {
     // Functions.cpp
     std::string Function(const BoundFunction& function, const BoundExpr& node, Fit fit);
     std::string Aggregate(const BoundAggregate& aggregate, const BoundExpr& node, Fit fit);
+    std::string Running(const BoundRunning& running, const BoundExpr& node, Fit fit);
     std::string Grouped(const std::string& aggregate, std::string_view ofParts);
 
     // Arithmetic.cpp
     std::string Arithmetic(const BoundArithmetic& arithmetic, const BoundExpr& node, Fit fit);
     std::string Sum(const BoundArithmetic& arithmetic, const SqlType& type, Fit fit);
     std::string Product(const BoundArithmetic& arithmetic, const SqlType& type, Fit fit);
+    std::string WideProduct(const std::string& left, const std::string& right, int scale,
+                            const SqlType& type);
     std::string Division(const BoundArithmetic& arithmetic, const SqlType& type, Fit fit);
     std::string DecimalDivision(const BoundArithmetic& arithmetic, int scale);
     std::string Divisor(const BoundExpr& expression, const std::string& written);

@@ -31,6 +31,14 @@ Parts& UnfinishedParts()
     return parts;
 }
 
+// Why a stream failed earlier; it keeps no reason itself.
+int ReasonOf(const fs::path& path)
+{
+    std::error_code error;
+    const fs::space_info room = fs::space(path.has_parent_path() ? path.parent_path() : ".", error);
+    return !error && room.available == 0 ? ENOSPC : EIO;
+}
+
 [[noreturn]] void ThrowCannotWrite(const fs::path& path, int error)
 {
     throw Error(
@@ -94,7 +102,7 @@ void OutputFile::Finish()
     errno = 0;
     objStream.close();
     if (!objStream)
-        ThrowCannotWrite(strPath, errno != 0 ? errno : EIO);
+        ThrowCannotWrite(strPath, errno != 0 ? errno : ReasonOf(strPath));
     if (strPart.empty())
         return;
 

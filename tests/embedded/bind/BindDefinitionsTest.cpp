@@ -59,7 +59,7 @@ TEST(BindDefinitions, ViewsTrustNoFactsAndAskForTheLanguageWhenTheyAreRead)
 {
     EXPECT_EQ(Bound("create view V as select cInvCode, 'A' as a, DBO.UDF_GetLocaleID() as l from Stock"),
               "create view account.V\n"
-              "  cInvCode: nvarchar(60) not null\n"
+              "  cInvCode: nvarchar(60) not null trimmed caseless as Stock.cInvCode\n"
               "  a: varchar(1) not null trimmed caseless\n"
               "  l: nvarchar(10) trimmed\n"
               "select\n"
@@ -67,6 +67,26 @@ TEST(BindDefinitions, ViewsTrustNoFactsAndAskForTheLanguageWhenTheyAreRead)
               "  a: varchar(1) not null trimmed caseless = 'A':varchar(1)\n"
               "  l: nvarchar(10) trimmed = locale():nvarchar(10)\n"
               "from account.Stock s1");
+}
+
+TEST(BindDefinitions, ViewsKnowWhereTheirTextsComeFrom)
+{
+    const std::string view = Bound(
+        "create view V as select s.cInvCode as plain, s.cInvCode + N'-' + w.code as joined, "
+        "case when s.cMemo = N'x' then s.cInvCode else N'-' end as chosen, left(s.cInvCode, 2) as cut, "
+        "cast(s.iPzID as nvarchar(10)) as number, cMemo + N'a' as lower, "
+        "(select max(cCode) from tempdb..W) as below "
+        "from Stock s left join (select cInvCode as code from tempdb..W union select N'-' from Item) w "
+        "on w.code = s.cInvCode");
+    EXPECT_EQ(view.substr(0, view.find("\nselect")),
+              "create view account.V\n"
+              "  plain: nvarchar(60) not null trimmed caseless as Stock.cInvCode\n"
+              "  joined: nvarchar(121) trimmed caseless as Stock.cInvCode, W.cInvCode\n"
+              "  chosen: nvarchar(60) trimmed caseless as Stock.cInvCode\n"
+              "  cut: nvarchar(2) caseless as Stock.cInvCode\n"
+              "  number: nvarchar(10) trimmed caseless\n"
+              "  lower: nvarchar(201) trimmed as Stock.cMemo\n"
+              "  below: varchar(4) trimmed caseless as W.cCode");
 }
 
 TEST(BindDefinitions, IndexesNameColumnsAsTheyWereDeclared)

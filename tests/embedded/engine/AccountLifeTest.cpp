@@ -106,7 +106,8 @@ TEST(AccountLife, MovesTablesBeforeAViewStandsOnThem)
     const TestAccount account;
     const auto handle = OpenAccount(account.Path());
     const auto connection = account.Connect();
-    connection->Execute("select 1 as a into T\r\ncreate view V as select a from T");
+    connection->Execute("select 1 as a into T");
+    connection->Execute("create view V as select a from T");
     EXPECT_EQ(DuckNameOf(*handle, "T"), "\"account\".\"main\".\"T\"");
     EXPECT_EQ(DuckNameOf(*handle, "V"), "\"account\".\"main\".\"V\"");
 }

@@ -136,7 +136,7 @@ TEST(EmbeddedConnection, ExplainsWithoutRunning)
     const std::string text = connection->Explain(
         "insert into T values (1)\r\nif exists(select * from sysobjects where name='T') drop table T");
     EXPECT_NE(text.find("INSERT INTO \"work\".\"main\".\"T\""), std::string::npos) << text;
-    EXPECT_NE(text.find("if a row came"), std::string::npos) << text;
+    EXPECT_NE(text.find("if a row comes"), std::string::npos) << text;
     EXPECT_NE(text.find("DROP TABLE"), std::string::npos) << text;
     EXPECT_EQ(ShowRows(*connection, "select count(*) from T"), "0\n");
     EXPECT_THROW(connection->Explain("select * from missing"), DatabaseError);

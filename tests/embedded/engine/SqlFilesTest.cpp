@@ -6,23 +6,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <map>
+#include <regex>
+#include <stdexcept>
 
 namespace kavelin::embedded {
 
 namespace {
-
-const std::filesystem::path kFolder = std::filesystem::path(KAVELIN_TESTS_DIR) / "embedded" / "sql";
-
-std::vector<std::string> Names()
-{
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(kFolder))
-        if (entry.path().extension() == ".test")
-            names.push_back(entry.path().stem().string());
-    std::sort(names.begin(), names.end());
-    return names;
-}
 
 std::string Joined(const std::vector<std::string>& parts, const std::string& between)
 {
@@ -41,9 +32,7 @@ class Runner {
         try {
             RunBlock(block);
         } catch (const DatabaseError& error) {
-            Fail(block, "error " + std::to_string(error.Get().lngNumber) + ": " + error.what() + " (line " +
-                            std::to_string(error.Get().lngLine) + ", column " +
-                            std::to_string(error.Get().lngColumn) + ')');
+            Fail(block, Told(error));
         }
     }
 
@@ -92,21 +81,32 @@ class Runner {
         }
     }
 
-    // "8134 Divide by zero": the number, and what the message holds.
+    // "102 at 2:8 near 'x'": the number, the place if it matters, and what the message holds.
     void ExpectError(const SqlBlock& block)
     {
-        const std::size_t blank = block.argument.find(' ');
-        const std::string number = block.argument.substr(0, blank);
-        const std::string part = blank == std::string::npos ? "" : block.argument.substr(blank + 1);
+        static const std::regex kExpected("([0-9]+)(?: at ([0-9]+:[0-9]+))?(?: (.*))?");
+        std::smatch expected;
+        if (!std::regex_match(block.argument, expected, kExpected))
+            throw std::runtime_error(strPath + ':' + std::to_string(block.line) + ": no error number");
         try {
             Current().Execute(block.sql);
             Fail(block, "no error");
         } catch (const DatabaseError& error) {
-            const bool fits = std::to_string(error.Get().lngNumber) == number &&
-                              std::string(error.what()).find(part) != std::string::npos;
+            const DatabaseError::Details& info = error.Get();
+            const std::string place = std::to_string(info.lngLine) + ':' + std::to_string(info.lngColumn);
+            const bool fits = std::to_string(info.lngNumber) == expected[1] &&
+                              (!expected[2].matched || place == expected[2]) &&
+                              std::string(error.what()).find(expected[3]) != std::string::npos;
             if (!fits)
-                Fail(block, "error " + std::to_string(error.Get().lngNumber) + ": " + error.what());
+                Fail(block, Told(error));
         }
+    }
+
+    static std::string Told(const DatabaseError& error)
+    {
+        return "error " + std::to_string(error.Get().lngNumber) + " at " +
+               std::to_string(error.Get().lngLine) + ':' + std::to_string(error.Get().lngColumn) + ' ' +
+               error.what();
     }
 
     std::unique_ptr<Recordset> Open(const SqlBlock& block)
@@ -123,7 +123,9 @@ class Runner {
 
     void Fail(const SqlBlock& block, const std::string& came)
     {
-        ADD_FAILURE_AT(strPath.c_str(), block.line) << block.sql << "\ncame\n" << came;
+        ADD_FAILURE_AT(strPath.c_str(), block.line) << Joined(block.marks, " ") << '\n'
+                                                    << block.sql << "\ncame\n"
+                                                    << came;
     }
 
     void Use(const std::string& name)
@@ -145,14 +147,13 @@ class SqlFiles : public ::testing::TestWithParam<std::string> {};
 
 TEST_P(SqlFiles, GiveWhatStandsInThem)
 {
-    const std::string path = (kFolder / (GetParam() + ".test")).string();
-    Runner runner(path);
-    for (const SqlBlock& block : ReadSqlTestFile(path))
+    Runner runner(GetParam());
+    for (const SqlBlock& block : ReadSqlTestFile(GetParam()))
         runner.Run(block);
 }
 
-INSTANTIATE_TEST_SUITE_P(Embedded, SqlFiles, ::testing::ValuesIn(Names()), [](const auto& file) {
-    std::string name = file.param;
+INSTANTIATE_TEST_SUITE_P(Embedded, SqlFiles, ::testing::ValuesIn(SqlTestFiles()), [](const auto& file) {
+    std::string name = std::filesystem::path(file.param).stem().string();
     std::replace_if(
         name.begin(), name.end(), [](char c) { return !std::isalnum(static_cast<unsigned char>(c)); }, '_');
     return name;

@@ -80,6 +80,7 @@ drop view V_a, dbo.V_b
 create view V_a as select a.cCode, isnull(b.cName, N'') as cName from A a left join B b on b.cCode = a.cCode
 create view V_b as select top 1 a from T order by b desc
 create view V_c as select a from T union all select a from U
+create function dbo.UDF_GetLocaleID() returns nvarchar(10) as begin return N'zh-CN' end
 create index I_a on T (a)
 create unique index [I b] on dbo.T (a, [b])
 

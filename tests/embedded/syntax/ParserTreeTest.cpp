@@ -49,7 +49,7 @@ TEST(ParserTree, NodesKnowTheirPlace)
 
 TEST(ParserTree, AViewKnowsTheTextOfItsQuery)
 {
-    const std::string_view text = "create view V as  select a from T  where b = 1 \r\n drop table T";
+    const std::string_view text = "create view V as  select a from T  where b = 1 \r\n";
     const auto statements = ParseBatch(text);
     EXPECT_EQ(At(text, As<CreateViewStatement>(statements.at(0)).query->place),
               "select a from T  where b = 1");

@@ -268,7 +268,8 @@ TEST(WriteStatements, S14ToS16MakeAndChangeTables)
     ObjectInfo table =
         NewTable("j", {Of("单据日期", kDatetime), Of("bRdFlag", kBit), Of("iPrice", Decimal(38, 6))});
     table.columns[1].defaultSql = "FALSE";
-    BoundCreateTable create{table, {"单据日期"}};
+    table.primaryKey = {"单据日期"};
+    BoundCreateTable create{table};
     EXPECT_EQ(duck.Run(Write(std::move(create))), "");
     EXPECT_EQ(duck.Run("INSERT INTO j (\"单据日期\") VALUES (TIMESTAMP '2008-07-01')"), "1");
     EXPECT_EQ(duck.Run("INSERT INTO j (\"单据日期\") VALUES (TIMESTAMP '2008-07-01')"),
@@ -308,10 +309,25 @@ TEST(WriteStatements, KeepsUniqueIndexesOnly)
 {
     Duck duck;
     MakeLedger(duck);
-    EXPECT_TRUE(Write(BoundCreateIndex{"\"t\"", "ix", false, {"k"}}).steps.empty());
-    EXPECT_EQ(duck.Run(Write(BoundCreateIndex{"\"t\"", "ix", true, {"k"}})), "");
-    EXPECT_EQ(duck.Run("INSERT INTO t (k) VALUES ('a')"),
-              "2601 Cannot insert duplicate key row in object with unique index.");
+    EXPECT_TRUE(Write(BoundCreateIndex{"\"t\"", "ix", false, {Of("k", kText)}}).steps.empty());
+    EXPECT_EQ(duck.Run(Write(BoundCreateIndex{"\"t\"", "ix", true, {Of("k", kText)}})), "");
+    for (const char* key : {"'a'", "'A '"})
+        EXPECT_EQ(duck.Run(std::string("INSERT INTO t (k) VALUES (") + key + ")"),
+                  "2601 Cannot insert duplicate key row in object with unique index.");
+}
+
+TEST(WriteStatements, KeysOfTextsKnowNoCaseAndNoTrailingBlanks)
+{
+    Duck duck;
+    ObjectInfo table = NewTable("k", {Of("n", kInt), Of("code", kText)});
+    table.primaryKey = {"n", "code"};
+    EXPECT_EQ(duck.Run(Write(BoundCreateTable{table})), "");
+    EXPECT_EQ(duck.Run("INSERT INTO k VALUES (1, 'a1'), (2, 'A1'), (1, 'a2')"), "3");
+    for (const char* code : {"'a1'", "'A1 '", "'A2'"})
+        EXPECT_EQ(duck.Run(std::string("INSERT INTO k VALUES (1, ") + code + ")"),
+                  "2627 Violation of PRIMARY KEY constraint. Cannot insert duplicate key.");
+    EXPECT_EQ(duck.Run("UPDATE k SET n = 1 WHERE n = 2"),
+              "2627 Violation of PRIMARY KEY constraint. Cannot insert duplicate key.");
 }
 
 TEST(SqlErrorOfDuck, TakesNumbersOffAndNamesWhatItKnows)

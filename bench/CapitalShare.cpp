@@ -1,8 +1,8 @@
 // The capital share over a generated account: the report itself, the same passes written by hand in DuckDB
 // SQL, and the best single DuckDB query that gives the same rows; in one process, on one database, in turn.
 // The whole command, from its start to its end, is measured at last.
+#include "DemoAccount.h"
 #include "Measure.h"
-#include "demo/DemoCompany.h"
 #include "embedded/EmbeddedAccount.h"
 #include "embedded/engine/Instance.h"
 #include "host/Config.h"
@@ -122,18 +122,6 @@ std::string FingerprintOfBestQuery(embedded::Session& session)
     return Fingerprint(result.RowCount(), Decimal(amount, 2), Decimal(share, 2));
 }
 
-std::filesystem::path AccountOf(std::int64_t lines)
-{
-    const std::filesystem::path path =
-        std::filesystem::path(KAVELIN_BENCH_DATA) / fmt::format("demo-{}.kavelin", lines);
-    if (!std::filesystem::exists(path)) {
-        std::filesystem::create_directories(path.parent_path());
-        fmt::print("making a demo account of {} ledger lines\n", lines);
-        demo::MakeDemoAccount(path, lines, demo::kDefaultSeed, {});
-    }
-    return path;
-}
-
 }  // namespace
 
 int main(int argumentCount, char** arguments)
@@ -144,7 +132,7 @@ int main(int argumentCount, char** arguments)
         fmt::print(stderr, "bench-capital-share [LINES [ROUNDS]]\n");
         return 2;
     }
-    const std::filesystem::path path = AccountOf(lines);
+    const std::filesystem::path path = bench::DemoAccount(lines);
 
     std::vector<bench::Contender> contenders;
     {

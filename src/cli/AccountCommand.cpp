@@ -1,4 +1,4 @@
-// kavelin account create|load|export
+// kavelin account create|load|export|check
 #include "cli/Commands.h"
 #include "cli/Help.h"
 #include "cli/Messages.h"
@@ -68,11 +68,12 @@ CLI::App* AddPathCommand(CLI::App& account, const std::string& name, const std::
 
 void AddAccount(CLI::App& program, Action& action)
 {
-    CLI::App* account =
-        AddCommand(program, "account", "Make an account, fill it from CSV files, write it out",
-                   "account create books.kavelin\n"
-                   "account load books.kavelin tables/\n"
-                   "account export books.kavelin copy/");
+    CLI::App* account = AddCommand(program, "account",
+                                   "Make an account, fill it from CSV files, write it out, check its books",
+                                   "account create books.kavelin\n"
+                                   "account load books.kavelin tables/\n"
+                                   "account export books.kavelin copy/\n"
+                                   "account check books.kavelin");
     const auto paths = std::make_shared<Paths>();
     CLI::App* create = AddPathCommand(*account, "create", "Make an empty account with all tables",
                                       "account create books.kavelin", *paths);
@@ -84,6 +85,8 @@ void AddAccount(CLI::App& program, Action& action)
     load->add_option("folder", paths->folder, "Folder with TABLE.csv files")->type_name("FOLDER");
     exported->add_option("folder", paths->folder, "Folder for the files, made if absent")
         ->type_name("FOLDER");
+
+    AddAccountCheck(*account, action);
 
     OnChosen(*create, action, [paths] { Create(*paths); });
     OnChosen(*load, action, [paths] { Load(*paths); });

@@ -1,5 +1,7 @@
 #include "cli/AccountFlags.h"
 
+#include "demo/profiles/Profile.h"
+#include "frame/Text.h"
 #include "host/HostErrors.h"
 #include "host/LocalText.h"
 
@@ -23,6 +25,14 @@ void AddLoginFlags(CLI::App& command, host::Flags& flags)
 std::filesystem::path DemoAccountPath()
 {
     return host::DataFolder(host::ConfigSources::OfProcess()) / "demo.kavelin";
+}
+
+std::filesystem::path DemoAccountPath(std::string_view profile)
+{
+    const std::filesystem::path path = DemoAccountPath();
+    return EqualsNoCase(profile, demo::Profiles().front().name)
+               ? path
+               : path.parent_path() / fmt::format("demo-{}.kavelin", profile);
 }
 
 host::AccountSettings ChosenAccount(const host::Config& config)

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace CLI {
 class App;
@@ -20,8 +21,10 @@ void AddAccountFlag(CLI::App& command, host::Flags& flags);
 // Adds --language and --user, for commands that run reports.
 void AddLoginFlags(CLI::App& command, host::Flags& flags);
 
-// Where `kavelin demo` makes its account if it is not told otherwise.
+// Where `kavelin demo` makes its account if it is not told otherwise: of the default profile, and of another
+// one by its name.
 std::filesystem::path DemoAccountPath();
+std::filesystem::path DemoAccountPath(std::string_view profile);
 
 // The account of the flags and settings; the demo account if none is named and it is there. Throws
 // UsageError if there is neither.

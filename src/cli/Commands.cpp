@@ -10,6 +10,7 @@ void AddCommands(CLI::App& program, Action& action)
     AddReports(program, action);
     AddFields(program, action);
     AddRun(program, action);
+    AddOpen(program, action);
     AddAccount(program, action);
     AddQuery(program, action);
     AddCompletion(program, action);

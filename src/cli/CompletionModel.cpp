@@ -1,4 +1,5 @@
 #include "cli/Completion.h"
+#include "demo/profiles/Profile.h"
 #include "host/FilterTemplate.h"
 #include "host/Reports.h"
 
@@ -17,6 +18,14 @@ struct ValueKind {
     std::vector<std::string> words;
 };
 
+std::vector<std::string> ProfileNames()
+{
+    std::vector<std::string> names;
+    for (const demo::Profile& profile : demo::Profiles())
+        names.emplace_back(profile.name);
+    return names;
+}
+
 const std::vector<ValueKind>& ValueKinds()
 {
     static const std::vector<ValueKind> kinds = {
@@ -27,6 +36,8 @@ const std::vector<ValueKind>& ValueKinds()
         {"A", Completes::File, {}},
         {"FOLDER", Completes::Folder, {}},
         {"FORM", Completes::Words, {"table", "csv", "json"}},
+        {"CHECKFORM", Completes::Words, {"table", "json"}},
+        {"PROFILE", Completes::Words, ProfileNames()},
         {"LANGUAGE", Completes::Words, {"zh-CN", "en-US"}},
         {"POLICY", Completes::Words, {"checked", "legacy"}},
         {"SHELL", Completes::Words, {"bash", "zsh", "fish"}},

@@ -1,6 +1,7 @@
 #include "cli/ProgressLine.h"
 
 #include "cli/Terminal.h"
+#include "host/AccountLogin.h"
 #include "host/output/DisplayWidth.h"
 
 #include <fmt/format.h>
@@ -25,8 +26,10 @@ ProgressLine::~ProgressLine()
     objTicker.join();
 }
 
-void ProgressLine::Begins(const std::string& sql, const std::string&)
+void ProgressLine::Begins(const std::string& sql, const std::string& connection)
 {
+    if (connection.starts_with(host::kLoginPurpose))  // no statement of the run
+        return;
     std::string what = host::DescribeStatement(sql);
     const std::lock_guard lock(objMutex);
     ++lngStatement;

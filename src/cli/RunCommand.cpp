@@ -1,6 +1,7 @@
 // kavelin run REPORT
 #include "cli/AccountFlags.h"
 #include "cli/Commands.h"
+#include "cli/FilterFlags.h"
 #include "cli/Help.h"
 #include "cli/OutputFlags.h"
 #include "cli/RunReport.h"
@@ -14,9 +15,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <fstream>
 #include <iostream>
-#include <iterator>
 #include <memory>
 
 namespace kavelin::cli {
@@ -26,9 +25,7 @@ namespace {
 struct RunFlags {
     std::string report;
     host::Flags login;
-    std::vector<std::string> values;
-    std::string filterFile;
-    std::string policy = "checked";
+    FilterFlags filter;
     OutputFlags output;
     bool showSql = false;
 };
@@ -40,32 +37,10 @@ const host::Report& ReportOf(const RunFlags& flags)
     return host::FindReport(flags.report);
 }
 
-host::ValuePolicy PolicyOf(const std::string& text)
-{
-    if (text == "checked")
-        return host::ValuePolicy::Checked;
-    if (text == "legacy")
-        return host::ValuePolicy::Legacy;
-    throw host::UsageError(fmt::format("--values takes checked or legacy, not \"{}\".", text));
-}
-
-std::string ReadFilterFile(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    std::string text{std::istreambuf_iterator<char>(file), {}};
-    if (!file.is_open() || file.bad())
-        throw host::UsageError(fmt::format("The filter file {} cannot be read.", path));
-    return text;
-}
-
 void Run(const RunFlags& flags)
 {
     const host::Report& report = ReportOf(flags);
-    host::FilterInput input(host::TemplateOf(report.name), PolicyOf(flags.policy));
-    if (!flags.filterFile.empty())
-        input.SetFromJson(ReadFilterFile(flags.filterFile), flags.filterFile);
-    for (const std::string& value : flags.values)
-        input.Set(value);
+    const host::FilterInput input = InputOf(report, flags.filter);
     RowsTarget target(flags.output);
     RunReport(report, input, ChosenLogin(flags.login), target, flags.showSql);
 }
@@ -113,17 +88,10 @@ void AddRun(CLI::App& program, Action& action)
     const auto flags = std::make_shared<RunFlags>();
     command->add_option("report", flags->report, "Name of the report")->type_name("REPORT");
     AddAccountFlag(*command, flags->login);
-    command->add_option("--set", flags->values, "Give a field of the filter its value, also KEY=FROM..TO")
-        ->type_name("KEY=VALUE")
-        ->allow_extra_args(false);
-    command->add_option("--filter", flags->filterFile, "Take values from a JSON file; --set goes before it")
-        ->type_name("FILE");
+    AddFilterFlags(*command, flags->filter);
     AddLoginFlags(*command, flags->login);
     AddOutputFlags(*command, flags->output, true);
     command->add_flag("--show-sql", flags->showSql, "Show every statement on stderr");
-    command
-        ->add_option("--values", flags->policy, "checked (by default), or legacy: let unsafe values through")
-        ->type_name("POLICY");
     OnChosen(
         *command, action, [flags] { Run(*flags); },
         [flags, command] {

@@ -120,15 +120,13 @@ std::vector<TableFile> FindFiles(const fs::path& folder, const Tables& tables)
 // Reads one file into a table.
 class TableLoader {
   public:
-    // `filled` becomes this file as soon as its table takes rows: the load tests a table's keys as late as
-    // when the next one begins.
-    TableLoader(const TableFile& file, embedded::BulkLoad& load, const TableFile*& filled)
-        : objFile(file), objLoad(load), objFilled(filled)
-    {
-    }
+    TableLoader(const TableFile& file, embedded::BulkLoad& load) : objFile(file), objLoad(load) {}
 
     std::int64_t Run()
     {
+        std::error_code ignored;
+        if (fs::is_directory(objFile.path, ignored))
+            Refuse(objFile, 0, {}, "that is a folder, not a file");
         std::ifstream input(objFile.path, std::ios::binary);
         if (!input)
             Refuse(objFile, 0, {}, "the file cannot be read");
@@ -166,8 +164,7 @@ class TableLoader {
             if (!hasValue && std::ranges::find(arrColumns, &column) == arrColumns.end())
                 Refuse(objFile, 1, {}, "the column " + column.name + " is missing, but takes no NULL");
         }
-        objLoad.Begin(objFile.table.name, columns);
-        objFilled = &objFile;
+        objTarget = &objLoad.Open(objFile.table.name, columns);
     }
 
     std::int64_t ReadRows(CsvReader& reader)
@@ -178,11 +175,13 @@ class TableLoader {
         while (reader.Next(fields)) {
             if (fields.size() != arrColumns.size())
                 Refuse(objFile, reader.Line(), {},
-                       std::to_string(fields.size()) + " fields stand where the first line has " +
-                           std::to_string(arrColumns.size()) + " columns");
+                       std::to_string(fields.size()) +
+                           (fields.size() == 1 ? " field stands" : " fields stand") +
+                           " where the first line has " + std::to_string(arrColumns.size()) +
+                           (arrColumns.size() == 1 ? " column" : " columns"));
             for (std::size_t i = 0; i < fields.size(); ++i)
                 row[i] = ReadValue(fields[i], *arrColumns[i], reader.Line());
-            objLoad.Append(row);
+            objTarget->Append(row);
             ++count;
         }
         return count;
@@ -201,7 +200,7 @@ class TableLoader {
 
     const TableFile& objFile;
     embedded::BulkLoad& objLoad;
-    const TableFile*& objFilled;
+    embedded::BulkTable* objTarget = nullptr;
     std::vector<const ColumnInfo*> arrColumns;
 };
 
@@ -220,14 +219,23 @@ RowCounts LoadFolder(const fs::path& account, const fs::path& folder)
 
     embedded::BulkLoad load(*opened);
     RowCounts counts;
-    const TableFile* filled = &files.front();
+    const TableFile* current = nullptr;
     try {
-        for (const TableFile& file : files)
-            counts[file.table.name] = TableLoader(file, load, filled).Run();
+        for (const TableFile& file : files) {
+            current = &file;
+            counts[file.table.name] = TableLoader(file, load).Run();
+        }
+        current = nullptr;
         load.Commit();
     } catch (const DatabaseError& error) {
+        // Keys are tested as late as at the end; the error then tells the table.
+        const auto* ofTable = dynamic_cast<const embedded::BulkLoadError*>(&error);
+        for (const TableFile& file : files)
+            if (current == nullptr && ofTable != nullptr && file.table.name == ofTable->Table())
+                current = &file;
         DatabaseError::Details details = error.Get();
-        details.strMessage = filled->Name() + ": " + details.strMessage;
+        if (current != nullptr)
+            details.strMessage = current->Name() + ": " + details.strMessage;
         throw DatabaseError(details);
     }
     return counts;

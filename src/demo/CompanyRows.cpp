@@ -1,9 +1,11 @@
 #include "demo/CompanyRows.h"
 
-#include "demo/Company.h"
-#include "demo/Ledger.h"
-#include "demo/LedgerLine.h"
-#include "demo/Stock.h"
+#include "demo/Random.h"
+#include "demo/Simulation.h"
+#include "demo/books/Books.h"
+#include "demo/company/Company.h"
+#include "demo/company/Stockroom.h"
+#include "demo/profiles/ProfileRows.h"
 #include "frame/Errors.h"
 
 #include <string>
@@ -12,8 +14,9 @@ namespace kavelin::demo {
 
 namespace {
 
-constexpr std::int64_t kMinimumLines = 600;
-constexpr std::int64_t kMaximumLines = 1'000'000'000;
+constexpr std::int64_t kMinimumLines = 2000;
+// Documents have several lines for each of the ledger; all of them are numbered in 32 bits.
+constexpr std::int64_t kMaximumLines = 200'000'000;
 
 }  // namespace
 
@@ -29,14 +32,18 @@ void CheckLines(std::int64_t lines)
                     std::to_string(kMaximumLines) + " lines, not " + std::to_string(lines) + ".");
 }
 
-void GenerateCompany(std::int64_t lines, std::uint64_t seed, RowSink& sink, const Progress& progress)
+void GenerateCompany(const Profile& profile, std::int64_t lines, std::uint64_t seed, RowSink& sink,
+                     const Progress& progress)
 {
     CheckLines(lines);
-    const Company company = MakeCompany(lines);
+    const Company company = MakeCompany(lines, profile);
+    WriteProfile(profile, company, lines, seed, sink);
     WriteMasterData(company, sink);
-    std::vector<Place> places = MakePlaces(company);
-    WriteLedger(places, lines, seed, sink, progress);
-    WriteSummary(places, kLedgerYear, sink);
+    Stockroom stock(company);
+    Random random(seed);
+    Books books(profile, company, stock, lines, sink);
+    Business business{profile, company, stock, books, random};
+    PlayYear(business, lines, progress);
     sink.Finish();
 }
 

@@ -13,6 +13,7 @@ void CheckLines(std::int64_t lines);
 
 // Gives every table of the demo company, but those whose rows are written out in data/rows, to the sink.
 // `lines` as CheckLines wants them.
-void GenerateCompany(std::int64_t lines, std::uint64_t seed, RowSink& sink, const Progress& progress);
+void GenerateCompany(const Profile& profile, std::int64_t lines, std::uint64_t seed, RowSink& sink,
+                     const Progress& progress);
 
 }  // namespace kavelin::demo

@@ -8,6 +8,12 @@ namespace {
 
 constexpr int kEnd = std::char_traits<char>::eof();
 
+// No text holds a NUL. A file does that was cut off by a crash, or is in UTF-16.
+[[noreturn]] void RefuseNul(std::int64_t line)
+{
+    throw CsvError(line, "a NUL stands there: the file is damaged, or no UTF-8 text");
+}
+
 }  // namespace
 
 CsvReader::CsvReader(std::istream& input) : objInput(input.rdbuf())
@@ -59,6 +65,8 @@ void CsvReader::ReadQuoted(std::string& text)
         const int character = Take();
         if (character == kEnd)
             throw CsvError(begin, "the field that begins with a quote here never ends");
+        if (character == 0)
+            RefuseNul(lngLine);
         if (character == '"') {
             if (objInput->sgetc() != '"')
                 return;
@@ -74,6 +82,8 @@ void CsvReader::ReadPlain(std::string& text)
         const int next = objInput->sgetc();
         if (next == kEnd || next == ',' || next == '\r' || next == '\n')
             return;
+        if (next == 0)
+            RefuseNul(lngLine);
         if (next == '"')
             throw CsvError(lngLine, "a quote stands within a field that does not begin with one");
         text += static_cast<char>(Take());

@@ -6,6 +6,7 @@
 #include "demo/Scripts.h"
 #include "embedded/engine/BulkLoad.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -13,27 +14,37 @@ namespace kavelin::demo {
 
 namespace {
 
+class AccountTable : public RowTable {
+  public:
+    explicit AccountTable(embedded::BulkTable& table) : objTable(table) {}
+    void Add(std::span<const Value> row) override { objTable.Append(row); }
+
+  private:
+    embedded::BulkTable& objTable;
+};
+
 class AccountSink : public RowSink {
   public:
     explicit AccountSink(const embedded::EmbeddedAccount& account) : objLoad(account) {}
 
-    void BeginTable(std::string_view table, std::span<const std::string_view> columns) override
+    RowTable& Open(std::string_view table, std::span<const std::string_view> columns) override
     {
-        objLoad.Begin(std::string(table), std::vector<std::string>(columns.begin(), columns.end()));
+        embedded::BulkTable& opened =
+            objLoad.Open(std::string(table), std::vector<std::string>(columns.begin(), columns.end()));
+        return *lstTables.emplace_back(std::make_unique<AccountTable>(opened));
     }
-
-    void AddRow(std::span<const Value> row) override { objLoad.Append(row); }
 
     void Finish() override { objLoad.Commit(); }
 
   private:
     embedded::BulkLoad objLoad;
+    std::vector<std::unique_ptr<AccountTable>> lstTables;
 };
 
 }  // namespace
 
-void MakeDemoAccount(const std::filesystem::path& account, std::int64_t lines, std::uint64_t seed,
-                     const Progress& progress)
+void MakeDemoAccount(const std::filesystem::path& account, const Profile& profile, std::int64_t lines,
+                     std::uint64_t seed, const Progress& progress)
 {
     CheckLines(lines);
 
@@ -43,7 +54,7 @@ void MakeDemoAccount(const std::filesystem::path& account, std::int64_t lines, s
     connection->Close();
     {
         AccountSink sink(files.Account());
-        GenerateCompany(lines, seed, sink, progress);
+        GenerateCompany(profile, lines, seed, sink, progress);
     }
     files.Keep();
 }

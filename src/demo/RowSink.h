@@ -8,14 +8,23 @@
 
 namespace kavelin::demo {
 
+// A table that takes rows.
+class RowTable {
+  public:
+    virtual ~RowTable() = default;
+
+    // One value a column, in the order of RowSink::Open.
+    virtual void Add(std::span<const Value> row) = 0;
+};
+
 class RowSink {
   public:
     virtual ~RowSink() = default;
 
-    // The rows that follow belong to `table` and give `columns`, in this order; its other columns get their
-    // default, number or NULL. A table begins once.
-    virtual void BeginTable(std::string_view table, std::span<const std::string_view> columns) = 0;
-    virtual void AddRow(std::span<const Value> row) = 0;
+    // Rows of `table` that give `columns`, in this order; its other columns get their default, number or
+    // NULL. Any number of tables may be open beside one another, each of them once. The table lives as long
+    // as the sink.
+    virtual RowTable& Open(std::string_view table, std::span<const std::string_view> columns) = 0;
 
     // Behind the last row of the last table.
     virtual void Finish() = 0;

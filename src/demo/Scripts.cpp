@@ -13,6 +13,7 @@ std::span<const host::EmbeddedFile> EmbeddedFiles();
 namespace {
 
 constexpr std::string_view kSchema = "schema";
+constexpr std::string_view kSeparator = "GO";
 constexpr std::string_view kCreateTable = "create table ";
 
 bool IsIn(std::string_view folder, const host::EmbeddedFile& file)
@@ -22,29 +23,27 @@ bool IsIn(std::string_view folder, const host::EmbeddedFile& file)
 
 }  // namespace
 
-std::string WithoutComments(std::string_view script)
+std::vector<std::string> Batches(std::string_view script)
 {
-    std::string text;
-    bool literal = false;
-    for (std::size_t i = 0; i < script.size(); ++i) {
-        if (script[i] == '\'')
-            literal = !literal;
-        if (!literal && script.substr(i).starts_with("--")) {
-            while (i < script.size() && script[i] != '\n')
-                ++i;
-            if (i == script.size())
-                break;
-        }
-        text += script[i];
+    std::vector<std::string> batches(1);
+    for (const std::string& line : Split(script, "\n")) {
+        if (EqualsNoCase(Trim(line), kSeparator))
+            batches.emplace_back();
+        else
+            batches.back() += line + "\n";
     }
-    return text;
+    std::erase_if(batches, [](const std::string& batch) {
+        return batch.find_first_not_of(" \n") == std::string::npos;
+    });
+    return batches;
 }
 
 void RunScripts(Connection& connection, std::string_view folder)
 {
     for (const host::EmbeddedFile& file : EmbeddedFiles())
         if (IsIn(folder, file))
-            connection.Execute(WithoutComments(file.content));
+            for (const std::string& batch : Batches(file.content))
+                connection.Execute(batch);
 }
 
 std::vector<std::string> SchemaTables()

@@ -1,8 +1,9 @@
-// The T-SQL scripts of the folder data: schema/ makes the tables, rows/ fills those whose rows are written
-// out.
+// The T-SQL scripts of the folder data: schema/ makes the tables, views and functions, rows/ fills the tables
+// whose rows are written out.
 //
-// A comment runs from `--` to the end of its line. It is for readers: the engine takes none, so comments
-// are taken out before a script is sent, and line numbers stay as they are.
+// The same files make an account on a server: run schema/*.sql and then rows/*.sql in the order of their names,
+// as `sqlcmd -f 65001 -i FILE ...` does; the database VosSystem must be there. A line that holds GO alone ends a
+// batch: views and functions stand alone in theirs. Comments have lines of their own.
 #pragma once
 
 #include "frame/Connection.h"
@@ -13,9 +14,10 @@
 
 namespace kavelin::demo {
 
-std::string WithoutComments(std::string_view script);
+// What is sent of a script: the texts between its lines GO, without those that are blank.
+std::vector<std::string> Batches(std::string_view script);
 
-// Runs all scripts of data/FOLDER, each as one batch, ordered by name. Throws DatabaseError.
+// Runs all scripts of data/FOLDER, ordered by name, batch by batch. Throws DatabaseError.
 void RunScripts(Connection& connection, std::string_view folder);
 
 // The tables that the schema makes, as it spells them; "VosSystem..UA_Period" among them.

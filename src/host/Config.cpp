@@ -102,11 +102,16 @@ AccountSettings Config::Account(const std::string& text) const
 
 std::string Config::Language(const AccountSettings& account) const
 {
+    return ChosenLanguage(account).value_or("zh-CN");
+}
+
+std::optional<std::string> Config::ChosenLanguage(const AccountSettings& account) const
+{
     if (const std::string text = FlagOrVariable(objFlags.language, "KAVELIN_LANGUAGE"); !text.empty())
         return CheckedLanguage(text, objFlags.language ? "language" : "KAVELIN_LANGUAGE");
     if (!account.language.empty())
         return account.language;
-    return objFiles.language.empty() ? "zh-CN" : objFiles.language;
+    return objFiles.language.empty() ? std::nullopt : std::optional(objFiles.language);
 }
 
 std::string Config::User(const AccountSettings& account) const

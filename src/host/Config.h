@@ -86,10 +86,11 @@ class Config {
     // The same for a name, path or connection string that comes from elsewhere.
     AccountSettings Account(const std::string& text) const;
 
-    std::string Language(const AccountSettings& account) const;  // "zh-CN" by default
-    std::string User(const AccountSettings& account) const;      // "demo" by default
-    int Year(const AccountSettings& account) const;              // 0: the account's latest
-    int Month(const AccountSettings& account) const;             // likewise
+    std::string Language(const AccountSettings& account) const;                       // "zh-CN" by default
+    std::optional<std::string> ChosenLanguage(const AccountSettings& account) const;  // nothing: the default
+    std::string User(const AccountSettings& account) const;                           // "demo" by default
+    int Year(const AccountSettings& account) const;   // 0: the account's latest
+    int Month(const AccountSettings& account) const;  // likewise
 
     // The value of the account's password variable, empty if it has none. Throws UsageError if the
     // variable is not set.

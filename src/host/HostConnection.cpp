@@ -99,11 +99,16 @@ std::shared_ptr<Connection> CreateConnection()
     return std::make_shared<PickedConnection>();
 }
 
-std::string EmbeddedConnectionString(const std::string& path, std::string_view language)
+std::string EmbeddedConnectionString(const std::string& path)
 {
     const bool bare = path.find_first_of(";'\"") == std::string::npos && Trim(path) == path;
     const std::string value = bare ? path : "\"" + ReplaceAll(path, "\"", "\"\"") + "\"";
-    return std::string(kEmbeddedKey) + "=" + value + ";Locale=" + std::string(language);
+    return std::string(kEmbeddedKey) + "=" + value;
+}
+
+std::string EmbeddedConnectionString(const std::string& path, std::string_view language)
+{
+    return EmbeddedConnectionString(path) + ";Locale=" + std::string(language);
 }
 
 std::string WithLocale(const std::string& connectionString, std::string_view language)

@@ -18,6 +18,7 @@ std::shared_ptr<Connection> CreateConnection();
 
 // "Embedded Account=PATH;Locale=...", the path quoted where it must be.
 std::string EmbeddedConnectionString(const std::string& path, std::string_view language);
+std::string EmbeddedConnectionString(const std::string& path);  // without Locale
 
 // The connection string of an embedded account with that Locale, unless it names one; any other as it is.
 std::string WithLocale(const std::string& connectionString, std::string_view language);

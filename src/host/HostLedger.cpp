@@ -29,11 +29,14 @@ void HostLedgerLogin::Initialise(const std::string& connectionText, const std::s
 {
     strConnectionText = connectionText;
     strPassword = passwordText.starts_with(kPasswordMark) ? passwordText.substr(kPasswordMark.size()) : "";
+    cnnLedger.reset();
 }
 
-std::shared_ptr<Connection> HostLedgerLogin::Open() const
+std::shared_ptr<Connection> HostLedgerLogin::DbConnection()
 {
-    return objConnections.Open("ledger", strConnectionText, strPassword);
+    if (!cnnLedger)
+        cnnLedger = objConnections.Open("ledger", strConnectionText, strPassword);
+    return cnnLedger;
 }
 
 std::string HostLedgerPub::Periods() const
@@ -64,9 +67,8 @@ std::vector<std::string> HostLedgerPub::GetAccountYears(Connection& account)
 
 void HostLedgerPub::GetAccountYearParams(LedgerLogin& login, const std::string&, LedgerParams& params)
 {
-    const auto account = dynamic_cast<HostLedgerLogin&>(login).Open();
     const auto rows =
-        Read(*account,
+        Read(*login.DbConnection(),
              "select cValue, cDefault from AccInformation where cSysID = N'IA' and cName = N'cValueStyle'");
     std::string style;
     if (!rows->Eof())
@@ -74,7 +76,6 @@ void HostLedgerPub::GetAccountYearParams(LedgerLogin& login, const std::string&,
             if (const Value value = rows->Field(field); style.empty() && !value.IsNull())
                 style = ToText(value);
     dynamic_cast<HostLedgerParams&>(params).SetValueStyle(style);
-    account->Close();
 }
 
 }  // namespace kavelin::host

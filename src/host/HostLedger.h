@@ -19,11 +19,12 @@ class HostLedgerLogin : public LedgerLogin {
     void Initialise(const std::string& connectionText, const std::string& passwordText, bool first,
                     bool second) override;
 
-    // Opened anew for every call. Throws ConnectionError.
-    std::shared_ptr<Connection> Open() const;
+    // Opened at the first call after Initialise and kept.
+    std::shared_ptr<Connection> DbConnection() override;
 
   private:
     ConnectionSource objConnections;
+    std::shared_ptr<Connection> cnnLedger;
     std::string strConnectionText;
     std::string strPassword;
 };

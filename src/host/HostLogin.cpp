@@ -3,14 +3,14 @@
 #include "frame/Text.h"
 #include "host/NamedObjects.h"
 
+#include <chrono>
 #include <utility>
 
 namespace kavelin::host {
 
 namespace {
 
-// A member of UserRights by the object of the service that it restricts; null for any other object.
-std::optional<std::vector<std::string>> UserRights::*RestrictionOf(std::string_view object)
+std::optional<std::vector<std::string>> UserRights::*MemberOf(std::string_view object)
 {
     const std::pair<std::string_view, std::optional<std::vector<std::string>> UserRights::*> restrictions[] =
         {
@@ -27,6 +27,12 @@ std::optional<std::vector<std::string>> UserRights::*RestrictionOf(std::string_v
 
 }  // namespace
 
+std::optional<std::vector<std::string>>* RestrictionOf(UserRights& rights, std::string_view object)
+{
+    const auto member = MemberOf(object);
+    return member ? &(rights.*member) : nullptr;
+}
+
 HostLogin::HostLogin(LoginSettings settings, std::shared_ptr<kavelin::AuthService> auth)
     : objSettings(std::move(settings)), objAuth(std::move(auth))
 {
@@ -34,6 +40,12 @@ HostLogin::HostLogin(LoginSettings settings, std::shared_ptr<kavelin::AuthServic
     connect->Put("ConnectionString", Value(objSettings.connectionText));
     objSystemDatabase = std::make_shared<LateBag>();
     objSystemDatabase->Put("DbConnect", HostObjectPtr(connect));
+}
+
+DateTime HostLogin::Date()
+{
+    using namespace std::chrono;
+    return sys_days(year(objSettings.year) / objSettings.month / last);
 }
 
 HostAuthService::HostAuthService(std::map<std::string, UserRights> users, std::string userId)
@@ -48,7 +60,7 @@ void HostAuthService::Initialise(const std::string&, const std::string& userId)
 
 std::string HostAuthService::GetList(const std::string& object, const std::string&, const std::string&)
 {
-    const auto restriction = RestrictionOf(object);
+    const auto restriction = MemberOf(object);
     if (!restriction)
         return "";
     for (const auto& [user, rights] : dicUsers) {

@@ -22,6 +22,9 @@ struct UserRights {
     std::optional<std::vector<std::string>> operators;    // "User": names of operators
 };
 
+// The list of rights to an object of the service, without regard to case; null for any other object.
+std::optional<std::vector<std::string>>* RestrictionOf(UserRights& rights, std::string_view object);
+
 struct LoginSettings {
     std::string connectionText;  // of the account database; the system database is reached by the same
     std::string accountId;
@@ -40,6 +43,7 @@ class HostLogin : public LoginContext {
     std::string AccountId() override { return objSettings.accountId; }
     std::string Year() override { return std::to_string(objSettings.year); }
     int Month() override { return objSettings.month; }
+    DateTime Date() override;  // the last day of the month
     std::string Password() override { return objSettings.password; }
     std::string UserId() override { return objSettings.userId; }
     std::string ConnectionText() override { return objSettings.connectionText; }
@@ -73,7 +77,8 @@ struct AccountingPeriod {
 };
 
 // The latest fiscal month of the account, in no year behind the last one with ledger lines; the latest of
-// `year` if that is not 0. Nothing if the system database has none. `connection` must be open. Throws DatabaseError.
+// `year` if that is not 0. Nothing if the system database has none. `connection` must be open. Throws
+// DatabaseError.
 std::optional<AccountingPeriod> LatestPeriod(Connection& connection, const std::string& accountId, int year);
 
 }  // namespace kavelin::host

@@ -66,7 +66,10 @@ Guid HostPlatform::CreateGuid()
 
 std::shared_ptr<LateBound> HostPlatform::CreateObject(const std::string& name)
 {
-    throw Error("This host has no object " + name + ".");
+    auto object = CreateSuiteObject(name, {objSettings.onShow, objSettings.onMessage, objSettings.language});
+    if (!object)
+        throw Error("This host has no object " + name + ".");
+    return object;
 }
 
 }  // namespace kavelin::host

@@ -4,22 +4,15 @@
 #include "frame/host/Platform.h"
 #include "host/HostConnection.h"
 #include "host/HostLogin.h"
+#include "host/ShownMessage.h"
+#include "host/SuiteViewers.h"
 
 #include <filesystem>
-#include <functional>
 #include <map>
 #include <memory>
 #include <string>
 
 namespace kavelin::host {
-
-struct ShownMessage {
-    std::string text;
-    int icon;  // kInformation or kWarning
-
-    bool operator==(const ShownMessage&) const = default;
-};
-using MessageSink = std::function<void(const ShownMessage&)>;
 
 struct PlatformSettings {
     ConnectionSource connections;
@@ -28,6 +21,7 @@ struct PlatformSettings {
     std::string language;  // until the library hands a login to the resource object
     std::map<std::string, UserRights> users;
     std::filesystem::path settingsFile;  // of the settings store
+    ViewerSink onShow = {};              // takes what the suite's viewers are asked to open; may be empty
 };
 
 class HostPlatform : public Platform {
@@ -46,7 +40,7 @@ class HostPlatform : public Platform {
     std::shared_ptr<XmlDocument> CreateXmlDocument() override;
     Guid CreateGuid() override;
 
-    // This host has no objects of the suite: throws Error, naming it.
+    // Those of CreateSuiteObject. Throws Error for any other name.
     std::shared_ptr<LateBound> CreateObject(const std::string& name) override;
 
   private:

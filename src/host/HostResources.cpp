@@ -69,6 +69,20 @@ std::string HostResources::GetEnumName(const std::string& type, const std::strin
     return found == entries->second.end() ? code : found->second;
 }
 
+std::string HostResources::GetEnumCode(const std::string& type, const std::string& text)
+{
+    const auto& enums = TextsOf(strLanguage).enums;
+    const auto entries = enums.find(type);
+    if (entries == enums.end())
+        return text;
+    // Long and short form of a code may be shown alike; the long one is what dialogs offer.
+    const std::string* best = nullptr;
+    for (const auto& [code, shown] : entries->second)
+        if (EqualsNoCase(shown, text) && (best == nullptr || code.size() > best->size()))
+            best = &code;
+    return best == nullptr ? text : *best;
+}
+
 void HostResources::ShowMessage(const std::string& text, int icon)
 {
     if (objOnMessage)

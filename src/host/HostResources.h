@@ -19,6 +19,7 @@ class HostResources : public ResourceObject {
     void SetLogin(std::shared_ptr<LoginContext> login) override;  // and from then on its language
     std::string GetResString(const std::string& key) override;
     std::string GetEnumName(const std::string& type, const std::string& code) override;
+    std::string GetEnumCode(const std::string& type, const std::string& text) override;
     void ShowMessage(const std::string& text, int icon) override;
 
   private:

@@ -8,6 +8,7 @@
 #include "host/HostErrors.h"
 #include "host/HostFilter.h"
 #include "host/HostMachine.h"
+#include "host/HostRowArgs.h"
 
 #include <chrono>
 #include <utility>
@@ -54,30 +55,14 @@ bool TableExists(Connection& connection, const std::string& table)
 
 }  // namespace
 
-AccountLogin LoginFor(const Config& config, const AccountSettings& account)
-{
-    AccountLogin login;
-    login.language = config.Language(account);
-    login.connectionString = account.path.empty() ? WithLocale(account.connectionString, login.language)
-                                                  : EmbeddedConnectionString(account.path, login.language);
-    login.accountId = account.id;
-    login.user = config.User(account);
-    login.password = config.Password(account);
-    login.year = config.Year(account);
-    login.month = config.Month(account);
-    login.users = config.Users();
-    login.settingsFile = config.SettingsFile();
-    return login;
-}
-
 ReportRun::ReportRun(AccountLogin login, ConnectionSource connections, MessageSink onMessage)
     : objConnections(std::move(connections)),
-      cnnHost(objConnections.Open("host", login.connectionString, login.password)),
+      cnnHost(OpenLogin(login, objConnections, "host")),
       objOnMessage(std::move(onMessage))
 {
     const AccountingPeriod period = PeriodOf(login, *cnnHost);
     objLogin =
-        std::make_shared<HostLogin>(LoginSettings{login.connectionString, login.accountId, login.user,
+        std::make_shared<HostLogin>(LoginSettings{login.ConnectionText(), login.accountId, login.user,
                                                   login.password, login.language, period.year, period.month},
                                     std::make_shared<HostAuthService>(login.users, login.user));
 
@@ -86,9 +71,13 @@ ReportRun::ReportRun(AccountLogin login, ConnectionSource connections, MessageSi
         if (objOnMessage)
             objOnMessage(message);
     };
+    const auto open = [this](const std::string& title, Recordset& rows) {
+        if (objOnShow)
+            objOnShow(title, rows);
+    };
     objPlatform = std::make_shared<HostPlatform>(PlatformSettings{objConnections, show, login.accountId,
                                                                   login.language, std::move(login.users),
-                                                                  std::move(login.settingsFile)});
+                                                                  std::move(login.settingsFile), open});
 }
 
 ReportRun::~ReportRun()
@@ -97,6 +86,32 @@ ReportRun::~ReportRun()
 }
 
 void ReportRun::Run(const Report& report, const FilterInput& input)
+{
+    Run(report, input, [](LateBound&) {});
+}
+
+void ReportRun::RunAndOpen(const Report& report, const FilterInput& input, std::int64_t row,
+                           const std::string& action, ViewerSink onShow)
+{
+    objOnShow = std::move(onShow);
+    Run(report, input, [&](LateBound& object) { OpenRow(object, row, action); });
+    objOnShow = nullptr;
+}
+
+void ReportRun::OpenRow(LateBound& report, std::int64_t row, const std::string& action)
+{
+    const auto rows = OpenResult();
+    if (row < 1 || row > rows->RecordCount())
+        throw UsageError("The result has no row " + std::to_string(row) + "; it has " +
+                         std::to_string(rows->RecordCount()) + ".");
+    for (std::int64_t before = 1; before < row; ++before)
+        rows->MoveNext();
+    const auto argument = std::make_shared<HostRowArgs>(objLogin, action, std::make_shared<HostRow>(*rows));
+    rows->Close();
+    report.Call("Execute", {std::static_pointer_cast<LateBound>(argument)});
+}
+
+void ReportRun::Run(const Report& report, const FilterInput& input, const Afterwards& afterwards)
 {
     DropResultQuiet();
     lstMessages.clear();
@@ -107,13 +122,14 @@ void ReportRun::Run(const Report& report, const FilterInput& input)
         std::make_shared<HostFilter>(std::string(report.filterId), input.Template(), objLogin);
     filter->Fill(input);
     const auto call = std::make_shared<HostCallArgs>(strTable, filter, objLogin->LanguageRegion());
-    {
-        const PlatformUse use(objPlatform);
-        CreateObject("Kavelin." + std::string(report.className))->Call("GETSQL", {HostObjectPtr(call)});
-    }
+
+    const PlatformUse use(objPlatform);
+    const auto object = CreateObject("Kavelin." + std::string(report.className));
+    object->Call("GETSQL", {HostObjectPtr(call)});
     if (!TableExists(*cnnHost, strTable))
         throw ReportError(lstMessages.empty() ? "The report failed without a message and left no result."
                                               : "The report failed: " + lstMessages.back().text);
+    afterwards(*object);
 }
 
 std::unique_ptr<Recordset> ReportRun::OpenResult()

@@ -2,33 +2,19 @@
 #pragma once
 
 #include "frame/Connection.h"
-#include "host/Config.h"
+#include "host/AccountLogin.h"
 #include "host/FilterInput.h"
 #include "host/HostConnection.h"
 #include "host/HostPlatform.h"
 #include "host/Reports.h"
 
+#include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace kavelin::host {
-
-// An account with everything that a login needs, passwords among it.
-struct AccountLogin {
-    std::string connectionString;
-    std::string accountId = "001";
-    std::string user = "demo";
-    std::string password;
-    std::string language = "zh-CN";
-    int year = 0;   // 0: the account's latest
-    int month = 0;  // likewise
-    std::map<std::string, UserRights> users;
-    std::filesystem::path settingsFile;
-};
-
-// The login that the settings give for the account.
-AccountLogin LoginFor(const Config& config, const AccountSettings& account);
 
 // Opens the account at construction and keeps it open, so that an embedded account stays loaded between
 // runs. Runs on the thread that calls Run, one at a time.
@@ -46,6 +32,12 @@ class ReportRun {
     // the report throws, and ReportError if it ended without its result table.
     void Run(const Report& report, const FilterInput& input);
 
+    // Runs the report and opens what is behind a row of its result, counted from 1 in the report's order, by
+    // an action of its toolbar; `onShow` takes it. What could not be opened stands in Messages. Throws as
+    // Run, and UsageError for a row that is not there.
+    void RunAndOpen(const Report& report, const FilterInput& input, std::int64_t row,
+                    const std::string& action, ViewerSink onShow);
+
     // A name of its own for every run, letters, digits and `_` only. Empty before the first run.
     const std::string& TableName() const { return strTable; }
 
@@ -62,6 +54,11 @@ class ReportRun {
     LoginContext& Login() { return *objLogin; }
 
   private:
+    using Afterwards = std::function<void(LateBound& report)>;
+
+    // `afterwards` runs while the state of the report's thread is as the report left it.
+    void Run(const Report& report, const FilterInput& input, const Afterwards& afterwards);
+    void OpenRow(LateBound& report, std::int64_t row, const std::string& action);
     void DropResultQuiet() noexcept;  // also after a cancelled run
 
     ConnectionSource objConnections;
@@ -69,6 +66,7 @@ class ReportRun {
     std::shared_ptr<HostLogin> objLogin;
     std::shared_ptr<HostPlatform> objPlatform;
     MessageSink objOnMessage;
+    ViewerSink objOnShow;
     std::vector<ShownMessage> lstMessages;
     const Report* objReport = nullptr;
     std::string strTable;

@@ -13,13 +13,25 @@ namespace kavelin::host {
 
 namespace {
 
+// Whatever is none of a report's other actions opens the accounting voucher; "Voucher" is this host's word
+// for it.
+constexpr RowAction kJournalActions[] = {
+    {"ActWtInfo", "the document"},
+    {"Voucher", "the accounting voucher"},
+};
+constexpr RowAction kStandardCostActions[] = {
+    {"Vouch", "the document"},
+    {"Voucher", "the accounting voucher"},
+    {"DifPZ", "the voucher of the cost differences"},
+};
+
 // Two lines a report: name, titles; class, filter identity, order, statements.
 // clang-format off
 constexpr Report kReports[] = {
     {"journal", "流水账", "Inventory journal",
-     "ClsWtInfo", "IA[__]流水账", "", 0},
+     "ClsWtInfo", "IA[__]流水账", "", 0, kJournalActions},
     {"standard-cost-journal", "标准成本流水账", "Standard-cost journal",
-     "clsStaCostacc", "C921AEDB-0DCD-4185-BCAA-00326BC8504F", "", 0},
+     "clsStaCostacc", "C921AEDB-0DCD-4185-BCAA-00326BC8504F", "", 0, kStandardCostActions},
     {"stock-summary", "收发存汇总表", "Receipt-issue-balance summary",
      "clsSfcSumInfo", "F3D99620-46E3-465E-97C7-ECD73735B108", "", 0},
     {"estimate-balance", "暂估材料余额表", "Estimate balance",

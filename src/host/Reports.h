@@ -7,6 +7,11 @@
 
 namespace kavelin::host {
 
+struct RowAction {
+    std::string_view name;
+    std::string_view opens;
+};
+
 struct Report {
     std::string_view name;  // the name on the command line
     std::string_view titleChinese;
@@ -15,6 +20,8 @@ struct Report {
     std::string_view filterId;   // identity of its filter; empty for a report without a dialog
     std::string_view orderBy;    // columns by which its result is read; empty: as the database gives it
     int statements;              // that a usual run sends, for a progress line; 0: not known
+    // Commands by which a row of the result is opened, the usual one first; none: rows open nothing.
+    std::span<const RowAction> actions = {};
 
     std::string_view Title(std::string_view language) const;
 };

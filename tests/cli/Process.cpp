@@ -136,6 +136,7 @@ Outcome Program::Run(const std::vector<std::string>& arguments, RunOptions optio
     const Clock::time_point begin = Clock::now();
     Clock::time_point signalled = begin;
     bool interrupted = options.interruptAfter.count() == 0;
+    bool killed = options.killAfter.count() == 0;
     while (out.read >= 0 || err.read >= 0) {
         pollfd files[] = {{out.read, POLLIN, 0}, {err.read, POLLIN, 0}};
         poll(files, 2, 20);
@@ -147,6 +148,10 @@ Outcome Program::Run(const std::vector<std::string>& arguments, RunOptions optio
             interrupted = true;
             signalled = Clock::now();
             kill(child, SIGINT);
+        }
+        if (!killed && Clock::now() - begin >= options.killAfter) {
+            killed = true;
+            kill(child, SIGKILL);
         }
     }
     int status = 0;

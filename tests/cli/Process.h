@@ -22,6 +22,7 @@ struct RunOptions {
     bool errorTerminal = false;                      // stderr is a terminal of 80 columns
     bool outputTerminal = false;                     // stdout is one
     std::chrono::milliseconds interruptAfter{0};     // Ctrl-C then; 0: never
+    std::chrono::milliseconds killAfter{0};          // kill -9 then; 0: never
     bool closeOutput = false;                        // the reader of stdout goes away at once
 };
 

@@ -77,7 +77,8 @@ TEST_F(RunTest, DemoIsMadeInTheDataFolderAndThenUsedByItself)
 
     const Outcome other = objProgram.Run({"demo", "--lines", "2001"}, options);
     EXPECT_EQ(other.exitCode, 2);
-    EXPECT_NE(other.err.find("is there already with 2,000 ledger lines"), std::string::npos) << other.err;
+    EXPECT_NE(other.err.find("is there already: profile industry, 2,000 ledger lines."), std::string::npos)
+        << other.err;
 }
 
 TEST_F(RunTest, DemoOverwritesNoFileOfAnotherKind)

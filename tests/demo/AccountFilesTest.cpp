@@ -116,7 +116,7 @@ TEST_F(AccountFiles, TellsFileLineAndColumnOfWhatItRefuses)
         {"Person.csv", "cPersonCode,CPERSONCODE\nP1,P1\n",
          "Person.csv, line 1: the column cPersonCode stands there twice."},
         {"Person.csv", "cPersonCode,cPersonName\nP1,A\nP2\n",
-         "Person.csv, line 3: 1 fields stand where the first line has 2 columns."},
+         "Person.csv, line 3: 1 field stands where the first line has 2 columns."},
         {"Person.csv", "cPersonCode,cPersonName\nP1,A,B\n",
          "Person.csv, line 2: 3 fields stand where the first line has 2 columns."},
         {"Person.csv", "cPersonCode,cPersonName\n,A\n",
@@ -132,6 +132,12 @@ TEST_F(AccountFiles, TellsFileLineAndColumnOfWhatItRefuses)
          "hh:mm:ss behind it."},
         {"Rd_Style.csv", "cRdCode\n1234567890123\n",
          "Rd_Style.csv, line 2, column cRdCode: '1234567890123' is not UTF-8 text of at most 12 characters."},
+        {"Person.csv", std::string_view("cPersonCode\nP1\nP\0002\n", 18),
+         "Person.csv, line 3: a NUL stands there: the file is damaged, or no UTF-8 text."},
+        {"Person.csv", std::string_view("\xFF\xFEP\0e\0", 6),
+         "Person.csv, line 1: a NUL stands there: the file is damaged, or no UTF-8 text."},
+        {"Person.csv", "cPersonCode,cPersonName\nP1,A\nP2,\xE8\x9E",
+         "Person.csv, line 3, column cPersonName: '\xE8\x9E' is not UTF-8 text of at most 60 characters."},
         {"Person.csv", "cPersonCode\nP\xFF\n",
          "Person.csv, line 2, column cPersonCode: 'P\xFF' is not UTF-8 text of at most 20 characters."},
     };
@@ -147,6 +153,12 @@ TEST_F(AccountFiles, RefusesAFolderWithoutFilesAndOneThatIsNotThere)
     EXPECT_TRUE(Refusal().ends_with(" cannot be read: No such file or directory.")) << Refusal();
     Write("README.md", "");
     EXPECT_TRUE(Refusal().ends_with(" holds no file TABLE.csv.")) << Refusal();
+}
+
+TEST_F(AccountFiles, RefusesAFolderInPlaceOfAFile)
+{
+    std::filesystem::create_directories(input / "Person.csv");
+    EXPECT_EQ(Refusal(), "Person.csv: that is a folder, not a file.");
 }
 
 TEST_F(AccountFiles, RefusesTwoFilesForOneTable)
@@ -224,7 +236,7 @@ TEST_F(AccountFiles, ComesBackTheSameAfterExportAndLoad)
 TEST_F(AccountFiles, ExportsTheDemoCompanyAndLoadsItAgain)
 {
     const std::filesystem::path company = folder / "company.kavelin";
-    MakeDemoAccount(company, MinimumLines(), 5);
+    MakeDemoAccount(company, Profiles().front(), MinimumLines(), 5);
     const RowCounts exported = ExportFolder(company, output);
     EXPECT_EQ(exported.size(), SchemaTables().size());
     EXPECT_EQ(exported.at("IA_Subsidiary"), MinimumLines());

@@ -45,18 +45,18 @@ std::int64_t MemoryTable::Hundredths(std::size_t row, std::string_view column) c
     return value.IsNull() ? 0 : std::llround(ToDouble(value) * 100);
 }
 
-void MemorySink::BeginTable(std::string_view table, std::span<const std::string_view> columns)
+void MemoryTable::Add(std::span<const Value> row)
 {
-    const auto [entry, isNew] = tables.try_emplace(std::string(table));
-    EXPECT_TRUE(isNew) << table << " begins twice";
-    objCurrent = &entry->second;
-    objCurrent->columns.assign(columns.begin(), columns.end());
+    ASSERT_EQ(row.size(), columns.size());
+    rows.emplace_back(row.begin(), row.end());
 }
 
-void MemorySink::AddRow(std::span<const Value> row)
+RowTable& MemorySink::Open(std::string_view table, std::span<const std::string_view> columns)
 {
-    ASSERT_EQ(row.size(), objCurrent->columns.size());
-    objCurrent->rows.emplace_back(row.begin(), row.end());
+    const auto [entry, isNew] = tables.try_emplace(std::string(table));
+    EXPECT_TRUE(isNew) << table << " is opened twice";
+    entry->second.columns.assign(columns.begin(), columns.end());
+    return entry->second;
 }
 
 std::uint64_t MemorySink::Hash() const
@@ -80,10 +80,10 @@ std::uint64_t MemorySink::Hash() const
     return hash;
 }
 
-MemorySink Generate(std::int64_t lines, std::uint64_t seed)
+MemorySink Generate(const Profile& profile, std::int64_t lines, std::uint64_t seed)
 {
     MemorySink sink;
-    GenerateCompany(lines, seed, sink, {});
+    GenerateCompany(profile, lines, seed, sink, {});
     return sink;
 }
 

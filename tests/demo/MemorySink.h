@@ -2,19 +2,23 @@
 #pragma once
 
 #include "demo/RowSink.h"
+#include "demo/profiles/Profile.h"
 #include "frame/Value.h"
 
 #include <cstdint>
 #include <map>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace kavelin::demo {
 
-struct MemoryTable {
+struct MemoryTable : RowTable {
     std::vector<std::string> columns;
     std::vector<std::vector<Value>> rows;
+
+    void Add(std::span<const Value> row) override;
 
     // Throws std::out_of_range for a column that was not given.
     const Value& At(std::size_t row, std::string_view column) const;
@@ -28,8 +32,7 @@ struct MemoryTable {
 
 class MemorySink : public RowSink {
   public:
-    void BeginTable(std::string_view table, std::span<const std::string_view> columns) override;
-    void AddRow(std::span<const Value> row) override;
+    RowTable& Open(std::string_view table, std::span<const std::string_view> columns) override;
     void Finish() override { finished = true; }
 
     const MemoryTable& Table(std::string_view name) const { return tables.at(std::string(name)); }
@@ -39,12 +42,9 @@ class MemorySink : public RowSink {
 
     std::map<std::string, MemoryTable> tables;
     bool finished = false;
-
-  private:
-    MemoryTable* objCurrent = nullptr;
 };
 
-// The company of `lines` lines and `seed`, whole.
-MemorySink Generate(std::int64_t lines, std::uint64_t seed);
+// The company of that profile, `lines` and `seed`, whole.
+MemorySink Generate(const Profile& profile, std::int64_t lines, std::uint64_t seed);
 
 }  // namespace kavelin::demo

@@ -7,26 +7,26 @@
 namespace kavelin::demo {
 namespace {
 
-TEST(Scripts, LoseTheirCommentsAndKeepTheirLines)
+TEST(Scripts, AreSplitAtLinesThatHoldGoAlone)
 {
-    const struct {
-        std::string_view script, text;
-    } cases[] = {
-        {"-- head\ncreate table T (\n    a int, -- it's a\n    b int\n)\n",
-         "\ncreate table T (\n    a int, \n    b int\n)\n"},
-        {"insert into T values ('--', 'it''s -- one')", "insert into T values ('--', 'it''s -- one')"},
-        {"select 1 -- end", "select 1 "},
-        {"select 3 - -2", "select 3 - -2"},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(WithoutComments(c.script), c.text);
+    EXPECT_EQ(Batches("-- head\ncreate table T (a int)\nGO\n\ncreate view V as\nselect a from T\n"),
+              (std::vector<std::string>{"-- head\ncreate table T (a int)\n",
+                                        "\ncreate view V as\nselect a from T\n\n"}));
+    EXPECT_EQ(Batches("select 1\n  go \nselect 2").size(), 2u);
+    EXPECT_EQ(Batches("select go from T\nselect 'a\n-- GO\nGOTO'").size(), 1u);
+}
+
+TEST(Scripts, HaveNoBlankBatches)
+{
+    EXPECT_TRUE(Batches("").empty());
+    EXPECT_EQ(Batches("GO\nselect 1\nGO\n\nGO\n").size(), 1u);
 }
 
 TEST(Scripts, NameTheTablesOfTheSchema)
 {
     const std::vector<std::string> tables = SchemaTables();
-    EXPECT_EQ(tables.size(), 25u);
-    for (const char* table : {"VosSystem..UA_Period", "AccInformation", "IA_Subsidiary", "ia_accountarea"})
+    EXPECT_EQ(tables.size(), 33u);
+    for (const char* table : {"VosSystem..UA_Period", "AccInformation", "IA_Subsidiary", "Demo_DocumentLine"})
         EXPECT_EQ(std::ranges::count(tables, table), 1) << table;
 }
 

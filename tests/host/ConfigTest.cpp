@@ -213,12 +213,12 @@ TEST_F(ConfigTest, MakesTheLoginOfAnAccount)
         "[accounts.demo]\npath = \"/d.kavelin\"\nlanguage = \"en-US\"\nyear = 2008\n"
         "[accounts.text]\nconnection = \"Embedded Account=/d.kavelin\"\n");
     const AccountLogin login = LoginFor(Load(), Load().Account("demo"));
-    EXPECT_EQ(login.connectionString, "Embedded Account=/d.kavelin;Locale=en-US");
+    EXPECT_EQ(login.ConnectionText(), "Embedded Account=/d.kavelin;Locale=en-US");
     EXPECT_EQ(login.year, 2008);
     EXPECT_EQ(login.month, 0);
     EXPECT_EQ(login.accountId, "001");
     EXPECT_EQ(login.settingsFile, strFolder / "xdg/kavelin/settings.json");
-    EXPECT_EQ(LoginFor(Load(), Load().Account("text")).connectionString,
+    EXPECT_EQ(LoginFor(Load(), Load().Account("text")).ConnectionText(),
               "Embedded Account=/d.kavelin;Locale=zh-CN");
 }
 

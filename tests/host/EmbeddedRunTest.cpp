@@ -132,6 +132,44 @@ TEST_F(EmbeddedRunTest, LimitsAUserToHisWarehouses)
     EXPECT_EQ(RunCapitalShare({"cno=1"}), "1 A 600 60\n");
 }
 
+TEST_F(EmbeddedRunTest, TakesRightsFromTheAccountUnlessTheSettingsNameTheUser)
+{
+    const auto account = Connections().Open("setup", objLogin.connectionString, "");
+    account->Execute(
+        "create table Demo_UserRight (cUser nvarchar(60) not null, cKind nvarchar(20) not null,"
+        " cCode nvarchar(60) not null)");
+    account->Execute(
+        "insert into Demo_UserRight (cUser, cKind, cCode) values (N'Anna', N'Warehouse', N'02'),"
+        " (N'Anna', N'Colour', N'red')");
+    account->Close();
+
+    EXPECT_EQ(RunCapitalShare({"cno=1"}), "1 A 600 60\n");
+    objLogin.user = "anna";
+    EXPECT_EQ(RunCapitalShare({}), "1 C 100 100\n");
+    objLogin.users["ANNA"].departments = std::vector<std::string>{"D"};
+    EXPECT_EQ(RunCapitalShare({"cno=1"}), "1 A 600 60\n");
+}
+
+TEST_F(EmbeddedRunTest, SpeaksTheAccountsLanguageIfNobodyChoseOne)
+{
+    const std::string path = (strFolder / "test.kavelin").string();
+    const auto account = Connections().Open("setup", objLogin.connectionString, "");
+    account->Execute(
+        "create table Demo_Profile (cName nvarchar(30) not null, cValue nvarchar(255) not null)");
+    account->Execute("insert into Demo_Profile (cName, cValue) values (N'language', N'en-US')");
+    account->Close();
+
+    objLogin.connectionString = EmbeddedConnectionString(path);
+    EXPECT_EQ(ReportRun(objLogin, Connections()).Login().LanguageRegion(), "zh-CN");
+    objLogin.languageByDefault = true;
+    ReportRun run(objLogin, Connections());
+    EXPECT_EQ(run.Login().LanguageRegion(), "en-US");
+    const auto rows =
+        run.Account().OpenRecordset("select 1 where dbo.UDF_GetLocaleID() = N'en-US'", CursorLocation::Client,
+                                    CursorType::Static, LockType::ReadOnly);
+    EXPECT_FALSE(rows->Eof());
+}
+
 TEST_F(EmbeddedRunTest, SendsAsManyStatementsAsTheTableOfReportsTells)
 {
     const auto observer = std::make_shared<CountingObserver>();

@@ -66,6 +66,17 @@ TEST_F(HostPlatformTest, ShowsTextsInTheLanguageOfTheLogin)
     EXPECT_EQ(resources->GetEnumName("IA.Month", "12月"), "Month 12");
 }
 
+TEST_F(HostPlatformTest, FindsTheCodeOfAShownText)
+{
+    const auto resources = objPlatform->CreateResourceObject();
+    EXPECT_EQ(resources->GetEnumCode("IA.BusType", "普通采购"), "普通采购");
+    resources->SetLogin(LoginIn("en-US"));
+    EXPECT_EQ(resources->GetEnumCode("ia.bustype", "ordinary purchase"), "普通采购");
+    EXPECT_EQ(resources->GetEnumCode("IA.BusType", "Consignment sale"), "委托代销");
+    EXPECT_EQ(resources->GetEnumCode("IA.BusType", "none of them"), "none of them");
+    EXPECT_EQ(resources->GetEnumCode("IA.None", "x"), "x");
+}
+
 TEST_F(HostPlatformTest, ShowsWhatHasNoTextAsItIsAskedFor)
 {
     const auto resources = objPlatform->CreateResourceObject();
@@ -155,9 +166,27 @@ TEST_F(HostPlatformTest, RefusesXmlThatIsNotWellFormed)
     }
 }
 
-TEST_F(HostPlatformTest, HasNoObjectsOfTheSuite)
+TEST_F(HostPlatformTest, MakesTheObjectsOfTheSuiteByName)
 {
-    EXPECT_THROW(objPlatform->CreateObject("Corvane.clsUniVch"), Error);
+    for (const char* name :
+         {"Corvane.clsUniVch", "Tessel.clsPub", "Brannic.clsPZ", "VosPortalProxy.Business", "tessel.CLSPUB"})
+        EXPECT_NE(objPlatform->CreateObject(name), nullptr) << name;
+    for (const char* name : {"", "clsPub", "Tessel.clsOther"})
+        EXPECT_THROW(objPlatform->CreateObject(name), Error) << name;
+}
+
+TEST_F(HostPlatformTest, LogsInOnTheLastDayOfTheMonth)
+{
+    const struct {
+        int year, month;
+        const char* day;
+    } cases[] = {
+        {2008, 7, "2008-07-31"}, {2008, 2, "2008-02-29"}, {2007, 2, "2007-02-28"}, {2008, 12, "2008-12-31"}};
+    for (const auto& c : cases)
+        EXPECT_EQ(
+            FormatDate(
+                HostLogin(LoginSettings{"", "001", "anna", "", "zh-CN", c.year, c.month}, nullptr).Date()),
+            c.day);
 }
 
 // The texts of the statements are those that the account answers, so a change of one fails here.

@@ -1,5 +1,7 @@
 #include "support/EventLog.h"
 
+#include "frame/Errors.h"
+
 namespace kavelin::test {
 
 void EventLog::Add(const std::string& line)
@@ -10,7 +12,10 @@ void EventLog::Add(const std::string& line)
         return;
     lngFailAt = 0;
     strFailAt.reset();
-    throw PlannedFailure("planned failure at: " + line);
+    const std::string text = "planned failure at: " + line;
+    if (blnErrors)
+        throw Error(text);
+    throw PlannedFailure(text);
 }
 
 void EventLog::FailAt(std::size_t number)

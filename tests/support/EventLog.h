@@ -17,7 +17,7 @@ class PlannedFailure : public std::runtime_error {
 
 class EventLog {
   public:
-    // Adds a line; throws PlannedFailure, once the line stands, if this is the event that is to fail.
+    // Adds a line; throws, once the line stands, if this is the event that is to fail.
     void Add(const std::string& line);
 
     // The `number`-th event from now on, from 1, fails.
@@ -28,6 +28,9 @@ class EventLog {
 
     const std::vector<std::string>& Lines() const { return lstLines; }
 
+    // From now on the failure is an Error, as those are that a host's objects throw.
+    void FailWithErrors() { blnErrors = true; }
+
     // All lines, each with LF behind it.
     std::string Text() const;
 
@@ -37,6 +40,7 @@ class EventLog {
     std::vector<std::string> lstLines;
     std::size_t lngFailAt = 0;  // position from 1, 0 for none
     std::optional<std::string> strFailAt;
+    bool blnErrors = false;
 };
 
 }  // namespace kavelin::test

@@ -171,7 +171,8 @@ void FakeFilter::SetFieldRangeList(const std::string& key, const std::string& li
 std::string FakeFilter::GetWhereWithToken(std::int32_t token)
 {
     objEvents->Add("RawFilter.GetWhereWithToken " + std::to_string(token));
-    return where;
+    const auto found = whereByToken.find(token);
+    return found == whereByToken.end() ? where : found->second;
 }
 
 }  // namespace kavelin::test

@@ -5,6 +5,7 @@
 
 #include "frame/host/ReportFilterObject.h"
 
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -29,7 +30,8 @@ class FakeFilter : public ReportFilterObject {
     // The token that was last stored in each item, in order; -1 where none was.
     std::vector<std::int32_t> Tokens() const;
 
-    // What GetWhereWithToken gives, whatever the token.
+    // What GetWhereWithToken gives for a token, and for any that isn't here.
+    std::map<std::int32_t, std::string> whereByToken;
     std::string where;
 
     std::string FilterID() override;

@@ -11,7 +11,7 @@ namespace kavelin::test {
 namespace {
 
 // An object with late-bound texts: what a login's system database is.
-class LateTexts : public LateBound {
+class LateTexts : public LateBound, public NamedObject {
   public:
     LateTexts(std::shared_ptr<EventLog> events, std::string name,
               std::map<std::string, Variant, LessNoCase> members)
@@ -19,6 +19,7 @@ class LateTexts : public LateBound {
     {
     }
 
+    std::string ShownName() const override { return strName; }
     Variant Get(std::string_view member) override
     {
         objEvents->Add("late " + strName + "." + std::string(member));
@@ -160,41 +161,45 @@ class LateArgs : public LateBound {
 
 std::string RecordingLogin::VosDbName()
 {
-    return objEvents->Add("Login.VosDbName"), objAnswers->vosDbName;
+    return objEvents->Add(strName + ".VosDbName"), objAnswers->vosDbName;
 }
 std::string RecordingLogin::AccountId()
 {
-    return objEvents->Add("Login.AccountId"), objAnswers->accountId;
+    return objEvents->Add(strName + ".AccountId"), objAnswers->accountId;
 }
 std::string RecordingLogin::Year()
 {
-    return objEvents->Add("Login.Year"), objAnswers->year;
+    return objEvents->Add(strName + ".Year"), objAnswers->year;
 }
 int RecordingLogin::Month()
 {
-    return objEvents->Add("Login.Month"), 7;
+    return objEvents->Add(strName + ".Month"), 7;
+}
+DateTime RecordingLogin::Date()
+{
+    return objEvents->Add(strName + ".Date"), objAnswers->date;
 }
 std::string RecordingLogin::Password()
 {
-    return objEvents->Add("Login.Password"), objAnswers->password;
+    return objEvents->Add(strName + ".Password"), objAnswers->password;
 }
 std::string RecordingLogin::UserId()
 {
-    return objEvents->Add("Login.UserId"), objAnswers->userId;
+    return objEvents->Add(strName + ".UserId"), objAnswers->userId;
 }
 std::string RecordingLogin::ConnectionText()
 {
-    return objEvents->Add("Login.ConnectionText"), objAnswers->connectionText;
+    return objEvents->Add(strName + ".ConnectionText"), objAnswers->connectionText;
 }
 std::string RecordingLogin::LanguageRegion()
 {
-    return objEvents->Add("Login.LanguageRegion"), objAnswers->langId;
+    return objEvents->Add(strName + ".LanguageRegion"), objAnswers->langId;
 }
 
 std::shared_ptr<LateBound> RecordingLogin::SystemDatabase()
 {
     using Members = std::map<std::string, Variant, LessNoCase>;
-    objEvents->Add("Login.SystemDatabase");
+    objEvents->Add(strName + ".SystemDatabase");
     HostObjectPtr connect = std::make_shared<LateTexts>(
         objEvents, "DbConnect", Members{{"ConnectionString", Value(objAnswers->systemConnection)}});
     return std::make_shared<LateTexts>(objEvents, "SystemDatabase", Members{{"DbConnect", connect}});
@@ -202,7 +207,7 @@ std::shared_ptr<LateBound> RecordingLogin::SystemDatabase()
 
 std::shared_ptr<class AuthService> RecordingLogin::AuthService()
 {
-    objEvents->Add("Login.AuthService");
+    objEvents->Add(strName + ".AuthService");
     return objAnswers->loginHasAuthService ? std::make_shared<RecordingAuthService>(objEvents, objAnswers)
                                            : nullptr;
 }

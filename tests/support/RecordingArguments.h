@@ -3,6 +3,7 @@
 
 #include "support/EventLog.h"
 #include "support/FakeFilter.h"
+#include "support/RecordingObjects.h"
 
 #include "frame/host/ReportCallArgs.h"
 
@@ -16,17 +17,20 @@ struct HostAnswers;
 // An object that nothing is asked of.
 class PlainObject : public HostObject {};
 
-class RecordingLogin : public LoginContext {
+class RecordingLogin : public LoginContext, public NamedObject {
   public:
-    RecordingLogin(std::shared_ptr<EventLog> events, std::shared_ptr<HostAnswers> answers)
-        : objEvents(std::move(events)), objAnswers(std::move(answers))
+    RecordingLogin(std::shared_ptr<EventLog> events, std::shared_ptr<HostAnswers> answers, std::string name)
+        : objEvents(std::move(events)), objAnswers(std::move(answers)), strName(std::move(name))
     {
     }
+
+    std::string ShownName() const override { return strName; }
 
     std::string VosDbName() override;
     std::string AccountId() override;
     std::string Year() override;
     int Month() override;
+    DateTime Date() override;
     std::string Password() override;
     std::string UserId() override;
     std::string ConnectionText() override;
@@ -37,6 +41,7 @@ class RecordingLogin : public LoginContext {
   private:
     std::shared_ptr<EventLog> objEvents;
     std::shared_ptr<HostAnswers> objAnswers;
+    std::string strName;
 };
 
 // What the two arguments share.

@@ -33,9 +33,19 @@ std::shared_ptr<LateBound> RecordingHost::LateArgument()
         ArgumentParts{objEvents, objAnswers, objFilter, Login(), objReportManager});
 }
 
-std::shared_ptr<LoginContext> RecordingHost::Login()
+std::shared_ptr<DrillDownArgs> RecordingHost::EarlyRowArgument(const std::string& action, const Cells& cells)
 {
-    return std::make_shared<RecordingLogin>(objEvents, objAnswers);
+    return std::make_shared<EarlyRow>(RowParts{objEvents, Login(), action, cells});
+}
+
+std::shared_ptr<LateBound> RecordingHost::LateRowArgument(const std::string& action, const Cells& cells)
+{
+    return std::make_shared<LateRow>(RowParts{objEvents, Login(), action, cells});
+}
+
+std::shared_ptr<LoginContext> RecordingHost::Login(const std::string& name)
+{
+    return std::make_shared<RecordingLogin>(objEvents, objAnswers, name);
 }
 
 void RecordingHost::SetParameter(const std::string& system, const std::string& name, const Value& value,

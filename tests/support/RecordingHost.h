@@ -7,13 +7,17 @@
 #include "support/EventLog.h"
 #include "support/FakeFilter.h"
 #include "support/RecordingConnection.h"
+#include "support/RecordingObjects.h"
+#include "support/RecordingRow.h"
 
 #include "frame/ModPub.h"
 #include "frame/host/Platform.h"
 #include "frame/host/ReportCallArgs.h"
 
+#include <chrono>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -29,6 +33,8 @@ struct HostAnswers {
     std::string connectionText = "connection text";
     std::string systemConnection = "system database";
 
+    DateTime date = std::chrono::sys_days(std::chrono::year(2008) / 7 / 31);
+
     std::string sql = "tempdb..result";
     std::string langId = "zh-CN";
     std::map<std::string, Value> args;  // Args.Item; empty for a key that isn't here
@@ -37,8 +43,13 @@ struct HostAnswers {
     std::map<std::string, std::string> lists;  // of the authorisation service by object; "" for others
 
     std::map<std::string, std::string> texts;  // GetResString; the key in "<>" for others
+    std::map<std::string, std::string>
+        codes;  // GetEnumCode by shown text; "code of " and the text for others
     Value clientNumber = 7;
     Guid guid = {};
+
+    std::set<std::string> missingObjects;  // of the suite, by name; there are all others
+    CallActions callActions;
 };
 
 class RecordingHost {
@@ -65,7 +76,12 @@ class RecordingHost {
     // The late-bound argument: the same members, every line with "late " before it.
     std::shared_ptr<LateBound> LateArgument();
 
-    std::shared_ptr<LoginContext> Login();
+    // The argument of Execute for a row; late-bound for ExecuteForOld.
+    std::shared_ptr<DrillDownArgs> EarlyRowArgument(const std::string& action, const Cells& cells);
+    std::shared_ptr<LateBound> LateRowArgument(const std::string& action, const Cells& cells);
+
+    // Its lines begin with the name.
+    std::shared_ptr<LoginContext> Login(const std::string& name = "Login");
 
     // What both arguments hold as ObjreportManager.
     HostObjectPtr ReportManager() const { return objReportManager; }

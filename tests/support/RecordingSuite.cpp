@@ -30,6 +30,12 @@ class RecordingResources : public ResourceObject {
         objEvents->Add("ResourceObject.GetEnumName " + type + ", " + code);
         return "<" + type + " " + code + ">";
     }
+    std::string GetEnumCode(const std::string& type, const std::string& text) override
+    {
+        objEvents->Add("ResourceObject.GetEnumCode " + type + ", " + text);
+        const auto found = objAnswers->codes.find(text);
+        return found == objAnswers->codes.end() ? "code of " + text : found->second;
+    }
     void ShowMessage(const std::string& text, int icon) override
     {
         objEvents->Add("ResourceObject.ShowMessage " + text + ", " + std::to_string(icon));
@@ -40,9 +46,14 @@ class RecordingResources : public ResourceObject {
     std::shared_ptr<HostAnswers> objAnswers;
 };
 
-class RecordingLedgerLogin : public LedgerLogin {
+class RecordingLedgerLogin : public LedgerLogin, public NamedObject {
   public:
-    explicit RecordingLedgerLogin(std::shared_ptr<EventLog> events) : objEvents(std::move(events)) {}
+    RecordingLedgerLogin(std::shared_ptr<EventLog> events, std::shared_ptr<ConnectionScript> script)
+        : objEvents(std::move(events)), objScript(std::move(script))
+    {
+    }
+
+    std::string ShownName() const override { return "LedgerLogin"; }
 
     void Initialise(const std::string& connectionText, const std::string& passwordText, bool first,
                     bool second) override
@@ -50,9 +61,17 @@ class RecordingLedgerLogin : public LedgerLogin {
         objEvents->Add("LedgerLogin.Initialise '" + connectionText + "', '" + passwordText + "', " +
                        ToText(first) + ", " + ToText(second));
     }
+    std::shared_ptr<Connection> DbConnection() override
+    {
+        objEvents->Add("LedgerLogin.DbConnection");
+        auto connection = std::make_shared<RecordingConnection>(objEvents, objScript);
+        connection->Open("", "", -1);
+        return connection;
+    }
 
   private:
     std::shared_ptr<EventLog> objEvents;
+    std::shared_ptr<ConnectionScript> objScript;
 };
 
 class RecordingLedgerPub : public LedgerPub {
@@ -159,7 +178,7 @@ std::shared_ptr<AuthService> RecordingPlatform::CreateAuthService()
 std::shared_ptr<LedgerLogin> RecordingPlatform::CreateLedgerLogin()
 {
     objEvents->Add("new LedgerLogin");
-    return std::make_shared<RecordingLedgerLogin>(objEvents);
+    return std::make_shared<RecordingLedgerLogin>(objEvents, objScript);
 }
 
 std::shared_ptr<LedgerPub> RecordingPlatform::CreateLedgerPub()
@@ -204,7 +223,10 @@ Guid RecordingPlatform::CreateGuid()
 
 std::shared_ptr<LateBound> RecordingPlatform::CreateObject(const std::string& name)
 {
-    throw Error("This host has no object " + name + ".");
+    objEvents->Add("new " + name);
+    if (objAnswers->missingObjects.contains(name))
+        throw Error("This host has no object " + name + ".");
+    return std::make_shared<RecordingObject>(objEvents, name, objAnswers->callActions);
 }
 
 }  // namespace kavelin::test

@@ -29,7 +29,7 @@ class RecordingAuthService : public AuthService {
     std::shared_ptr<HostAnswers> objAnswers;
 };
 
-// Writes "new Connection #1", "new ResourceObject" and so on. Has no settings, no XML and no objects by name.
+// Writes "new Connection #1", "new ResourceObject" and so on. Has no settings and no XML.
 class RecordingPlatform : public Platform {
   public:
     RecordingPlatform(std::shared_ptr<EventLog> events, std::shared_ptr<ConnectionScript> script,

@@ -7,6 +7,7 @@
 #include "frame/Text.h"
 
 #include <array>
+#include <map>
 #include <optional>
 
 namespace kavelin::embedded {
@@ -40,7 +41,7 @@ DatabaseError UnknownTable(const std::string& table)
 
 // The statements of a load are DuckDB's own, so its errors have no T-SQL text to point into.
 template <class Action>
-auto WithDatabaseErrors(Action&& action)
+decltype(auto) WithDatabaseErrors(Action&& action)
 {
     try {
         return action();
@@ -48,6 +49,41 @@ auto WithDatabaseErrors(Action&& action)
         throw DatabaseError(DetailsOf(error, {}, {}));
     }
 }
+
+// Rows are handed over many at a time, so DuckDB's error tells the table, but no row.
+template <class Action>
+auto WithTableErrors(const std::string& table, Action&& action)
+{
+    try {
+        return action();
+    } catch (const DuckError& error) {
+        throw BulkLoadError(DetailsOf(error, {}, {}), table, "", 0);
+    }
+}
+
+class OpenTable : public BulkTable {
+  public:
+    // `name` as the load's caller wrote it.
+    OpenTable(Session& session, const ObjectInfo& table, const std::vector<std::string>& columns,
+              std::string name)
+        : objAppender(session, table, columns), strName(std::move(name))
+    {
+    }
+
+    void Append(std::span<const Value> row) override
+    {
+        WithTableErrors(strName, [&] { objAppender.Append(row); });
+    }
+
+    ObjectInfo Finish()
+    {
+        return WithTableErrors(strName, [&] { return objAppender.Finish(); });
+    }
+
+  private:
+    TableAppender objAppender;
+    std::string strName;
+};
 
 }  // namespace
 
@@ -61,16 +97,16 @@ struct BulkLoad::Load {
 
     std::shared_ptr<Instance> instance;
     std::array<std::unique_ptr<Side>, 3> sides;  // by Database; null while nothing was loaded there
-    ObjectMap loaded;                            // with the facts as they are now, by DuckDB's name
-    std::unique_ptr<TableAppender> appender;
+    ObjectMap loaded;                            // finished, with the facts as they are now, by DuckDB's name
+    std::map<std::string, std::unique_ptr<OpenTable>> open;  // by DuckDB's name
 
-    void FinishTable()
+    void FinishTable(const std::string& duckName)
     {
-        if (!appender)
+        const auto found = open.find(duckName);
+        if (found == open.end())
             return;
-        const auto table = std::make_shared<const ObjectInfo>(appender->Finish());
-        appender.reset();
-        loaded[table->duckName] = table;
+        loaded[duckName] = std::make_shared<const ObjectInfo>(found->second->Finish());
+        open.erase(found);
     }
 };
 
@@ -82,37 +118,32 @@ BulkLoad::BulkLoad(const EmbeddedAccount& account) : objLoad(std::make_unique<Lo
 
 BulkLoad::~BulkLoad() = default;
 
-void BulkLoad::Begin(const std::string& table, const std::vector<std::string>& columns)
+BulkTable& BulkLoad::Open(const std::string& table, const std::vector<std::string>& columns)
 {
-    WithDatabaseErrors([&] {
-        objLoad->FinishTable();
+    return WithDatabaseErrors([&]() -> BulkTable& {
         const TableName wanted = ReadTableName(table);
         const auto snapshot = objLoad->instance->Objects().Current();
         const ObjectMap& objects = (*snapshot)[static_cast<std::size_t>(wanted.database)];
         const auto found = objects.find(wanted.name);
         if (found == objects.end() || found->second->kind != ObjectKind::Table)
             throw UnknownTable(table);
-        const auto before = objLoad->loaded.find(found->second->duckName);
+        const std::string& duckName = found->second->duckName;
+        objLoad->FinishTable(duckName);
+        const auto before = objLoad->loaded.find(duckName);
         const ObjectInfo& info = before != objLoad->loaded.end() ? *before->second : *found->second;
 
         std::unique_ptr<Load::Side>& side = objLoad->sides[static_cast<std::size_t>(wanted.database)];
         if (!side)
             side = std::make_unique<Load::Side>(objLoad->instance->Duck());
-        objLoad->appender = std::make_unique<TableAppender>(side->session, info, columns);
+        return *(objLoad->open[duckName] = std::make_unique<OpenTable>(side->session, info, columns, table));
     });
-}
-
-void BulkLoad::Append(std::span<const Value> row)
-{
-    if (!objLoad->appender)
-        throw Error("A row came before a table was begun.");
-    WithDatabaseErrors([&] { objLoad->appender->Append(row); });
 }
 
 void BulkLoad::Commit()
 {
     WithDatabaseErrors([&] {
-        objLoad->FinishTable();
+        while (!objLoad->open.empty())
+            objLoad->FinishTable(std::string(objLoad->open.begin()->first));
         std::array<std::vector<CatalogChange>, 3> changes;
         for (const auto& [duckName, table] : objLoad->loaded) {
             const auto database = static_cast<std::size_t>(table->database);

@@ -1,9 +1,10 @@
 // Many rows into the tables of an account, all or nothing in each of its databases.
 //
 //   BulkLoad load(account);
-//   load.Begin("IA_Subsidiary", {"AutoID", "cInvCode", "iAInQuantity"});
-//   load.Append(row);
-//   load.Begin("vossystem..UA_Period", {...});
+//   BulkTable& ledger = load.Open("IA_Subsidiary", {"AutoID", "cInvCode", "iAInQuantity"});
+//   BulkTable& periods = load.Open("vossystem..UA_Period", {...});
+//   ledger.Append(row);
+//   periods.Append(row);
 //   ...
 //   load.Commit();
 #pragma once
@@ -42,6 +43,16 @@ class BulkLoadError : public DatabaseError {
     std::int64_t lngRow;
 };
 
+// A table that takes rows, until its load ends or opens the table again.
+class BulkTable {
+  public:
+    virtual ~BulkTable() = default;
+
+    // One value a column, in the order of Open; empty counts as null. Throws BulkLoadError for a value that
+    // the column does not take; the load can then only be given up.
+    virtual void Append(std::span<const Value> row) = 0;
+};
+
 class BulkLoad {
   public:
     // Keeps the account open. Tables still in memory move to the file first, so that the rows are written
@@ -52,14 +63,10 @@ class BulkLoad {
     BulkLoad(const BulkLoad&) = delete;
     BulkLoad& operator=(const BulkLoad&) = delete;
 
-    // What is appended from now on goes into that table: `x`, `tempdb..x` or `vossystem..x`. Columns that are
-    // not named get their default, the identity its next number, others NULL. A table may come again.
-    // Throws DatabaseError for an unknown table or column.
-    void Begin(const std::string& table, const std::vector<std::string>& columns);
-
-    // One value a column, in the order of Begin; empty counts as null. Throws BulkLoadError for a value that
-    // the column does not take; the load can then only be given up. Throws Error before the first Begin.
-    void Append(std::span<const Value> row);
+    // `x`, `tempdb..x` or `vossystem..x`. Columns that are not named get their default, the identity its next
+    // number, others NULL. Any number of tables may be open; one that is opened again gets its further rows
+    // behind those before. Throws DatabaseError for an unknown table or column.
+    BulkTable& Open(const std::string& table, const std::vector<std::string>& columns);
 
     // Keeps all rows: in one transaction a database, the account's first. Throws DatabaseError, which leaves
     // the database that it came from as it was. The load is over.

@@ -27,6 +27,13 @@ class LateBound : public virtual HostObject {
     virtual Variant Get(std::string_view member) = 0;
     virtual void Put(std::string_view member, const Variant& value) = 0;
     virtual Variant Call(std::string_view member, const std::vector<Variant>& arguments) = 0;
+
+    // Call of a member that may put something else in the place of an argument: the caller finds it in
+    // `arguments`, also after an error. By default no member does.
+    virtual Variant CallByReference(std::string_view member, std::vector<Variant>& arguments)
+    {
+        return Call(member, arguments);
+    }
 };
 
 // The object in a late-bound answer as `T`. Throws Error, naming `what`, if it holds none of that kind.

@@ -1,6 +1,7 @@
 // The logged-in user and his company, and the service that tells what he may see.
 #pragma once
 
+#include "frame/Value.h"
 #include "frame/host/HostObject.h"
 
 #include <memory>
@@ -25,6 +26,7 @@ class LoginContext : public virtual HostObject {
     virtual std::string AccountId() = 0;  // compared with `cAcc_ID` of the system tables
     virtual std::string Year() = 0;       // accounting year of the login, as digits
     virtual int Month() = 0;              // month of the login, 1 to 12
+    virtual DateTime Date() = 0;          // day of the login
     virtual std::string Password() = 0;   // of the system database
     virtual std::string UserId() = 0;
     virtual std::string ConnectionText() = 0;  // for the ledger objects and the authorisation service

@@ -24,6 +24,8 @@ class ResourceObject : public virtual HostObject {
     virtual void SetLogin(std::shared_ptr<LoginContext> login) = 0;
     virtual std::string GetResString(const std::string& key) = 0;
     virtual std::string GetEnumName(const std::string& type, const std::string& code) = 0;
+    // The other way round: the code of a shown text. A text that is none is its own code.
+    virtual std::string GetEnumCode(const std::string& type, const std::string& text) = 0;
     virtual void ShowMessage(const std::string& text, int icon) = 0;
 };
 
@@ -32,6 +34,9 @@ class LedgerLogin : public virtual HostObject {
     // `passwordText` is ";PWD=" and the password.
     virtual void Initialise(const std::string& connectionText, const std::string& passwordText, bool first,
                             bool second) = 0;
+
+    // An open connection to the account database with that login. Throws ConnectionError.
+    virtual std::shared_ptr<Connection> DbConnection() = 0;
 };
 
 // Options of one accounting year.

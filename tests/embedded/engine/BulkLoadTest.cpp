@@ -45,13 +45,13 @@ class BulkLoadTest : public ::testing::Test {
 TEST_F(BulkLoadTest, LoadsSeveralTablesAndNumbersAndDefaults)
 {
     BulkLoad load(*objHandle);
-    load.Begin("t", {"I", "c"});
-    load.Append(Row{Value(7), Value("a")});
-    load.Append(Row{Value::Null(), Value("b")});
-    load.Begin("vossystem..P", {"cAcc_ID", "iYear"});
-    load.Append(Row{Value("001"), Value(2008)});
-    load.Begin("T", {"n", "c", "b"});
-    load.Append(Row{Value(10), Value("c"), Value(false)});
+    BulkTable* table = &load.Open("t", {"I", "c"});
+    table->Append(Row{Value(7), Value("a")});
+    table->Append(Row{Value::Null(), Value("b")});
+    table = &load.Open("vossystem..P", {"cAcc_ID", "iYear"});
+    table->Append(Row{Value("001"), Value(2008)});
+    table = &load.Open("T", {"n", "c", "b"});
+    table->Append(Row{Value(10), Value("c"), Value(false)});
     EXPECT_EQ(Rows("select count(*) from T"), "0\n");
     load.Commit();
 
@@ -62,14 +62,31 @@ TEST_F(BulkLoadTest, LoadsSeveralTablesAndNumbersAndDefaults)
     EXPECT_EQ(Rows("select max(n) from T"), "11\n");
 }
 
+TEST_F(BulkLoadTest, FillsSeveralTablesBesideOneAnother)
+{
+    objConnection->Execute("create table L (n int, c nvarchar(5))");
+    BulkLoad load(*objHandle);
+    BulkTable& heads = load.Open("T", {"c"});
+    BulkTable& lines = load.Open("L", {"n", "c"});
+    for (int i = 1; i <= 5000; ++i) {
+        if (i % 5 == 1)
+            heads.Append(Row{Value(std::to_string(i))});
+        lines.Append(Row{Value(i), Value(std::to_string(i))});
+    }
+    load.Commit();
+    EXPECT_EQ(Rows("select count(*), max(n) from L"), "5000 | 5000\n");
+    EXPECT_EQ(Rows("select count(*), max(n) from T"), "1000 | 1000\n");
+    EXPECT_EQ(Rows("select T.n, T.c from T inner join L on L.c = T.c where L.n = 4991"), "999 | 4991\n");
+}
+
 TEST_F(BulkLoadTest, LeavesNothingWithoutCommit)
 {
     {
         BulkLoad load(*objHandle);
-        load.Begin("T", {"c"});
-        load.Append(Row{Value("a")});
-        load.Begin("VosSystem..P", {"iYear"});
-        load.Append(Row{Value(2008)});
+        BulkTable* table = &load.Open("T", {"c"});
+        table->Append(Row{Value("a")});
+        table = &load.Open("VosSystem..P", {"iYear"});
+        table->Append(Row{Value(2008)});
     }
     EXPECT_EQ(Rows("select count(*) from T"), "0\n");
     EXPECT_EQ(Rows("select count(*) from vossystem..P"), "0\n");
@@ -78,13 +95,14 @@ TEST_F(BulkLoadTest, LeavesNothingWithoutCommit)
 TEST_F(BulkLoadTest, TakesTextsForEveryType)
 {
     BulkLoad load(*objHandle);
-    load.Begin("T", {"c", "i", "m", "d", "f", "dt", "b"});
-    load.Append(Row{Value("a"), Value("255"), Value("-0.00005"), Value("1.255"), Value("1e3"),
-                    Value("2008-7-31 14:30"), Value("0")});
-    load.Append(Row{Value(12), Value(true), Value(1.5), Value(Decimal(-1005, 3)), Value(Decimal(25, 1)),
-                    Value(DateTime(std::chrono::sys_days(std::chrono::year(2008) / 7 / 1))), Value("True")});
-    load.Append(Row{Value("abcde  "), Value(), Value(std::int64_t{3}), Value(2.125), Value(3), Value::Null(),
-                    Value(2)});
+    BulkTable* table = &load.Open("T", {"c", "i", "m", "d", "f", "dt", "b"});
+    table->Append(Row{Value("a"), Value("255"), Value("-0.00005"), Value("1.255"), Value("1e3"),
+                      Value("2008-7-31 14:30"), Value("0")});
+    table->Append(Row{Value(12), Value(true), Value(1.5), Value(Decimal(-1005, 3)), Value(Decimal(25, 1)),
+                      Value(DateTime(std::chrono::sys_days(std::chrono::year(2008) / 7 / 1))),
+                      Value("True")});
+    table->Append(Row{Value("abcde  "), Value(), Value(std::int64_t{3}), Value(2.125), Value(3),
+                      Value::Null(), Value(2)});
     load.Commit();
     EXPECT_EQ(Rows("select c, i, m, d, f, dt, b from T order by n"),
               "a | 255 | -0.0001 | 1.26 | 1000 | 2008-07-31 14:30:00 | 0\n"
@@ -111,14 +129,11 @@ TEST_F(BulkLoadTest, NamesTableColumnAndRowOfAValueThatDoesNotFit)
     for (const auto& c : cases) {
         BulkLoad load(*objHandle);
         const bool first = std::string(c.column) == "c";
-        if (first)
-            load.Begin("T", {"c"});
-        else
-            load.Begin("T", {"c", c.column});
+        BulkTable* table = first ? &load.Open("T", {"c"}) : &load.Open("T", {"c", c.column});
         const Row good = first ? Row{Value("a")} : Row{Value("a"), Value::Null()};
         const Row bad = first ? Row{c.value} : Row{Value("a"), c.value};
-        load.Append(good);
-        const auto error = ErrorOf([&] { load.Append(bad); });
+        table->Append(good);
+        const auto error = ErrorOf([&] { table->Append(bad); });
         ASSERT_TRUE(error) << c.column << c.number;
         EXPECT_EQ(error->Table(), "T");
         EXPECT_EQ(error->Column(), c.column);
@@ -133,10 +148,10 @@ TEST_F(BulkLoadTest, NamesTableColumnAndRowOfAValueThatDoesNotFit)
 TEST_F(BulkLoadTest, RefusesUnknownTablesAndColumnsAndRowsOfAnotherLength)
 {
     BulkLoad load(*objHandle);
-    EXPECT_THROW(load.Begin("missing", {"a"}), DatabaseError);
-    EXPECT_THROW(load.Begin("T", {"c", "missing"}), DatabaseError);
-    load.Begin("T", {"c"});
-    const auto error = ErrorOf([&] { load.Append(Row{Value("a"), Value("b")}); });
+    EXPECT_THROW(load.Open("missing", {"a"}), DatabaseError);
+    EXPECT_THROW(load.Open("T", {"c", "missing"}), DatabaseError);
+    BulkTable* table = &load.Open("T", {"c"});
+    const auto error = ErrorOf([&] { table->Append(Row{Value("a"), Value("b")}); });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->Get().lngNumber, 213);
 }
@@ -145,9 +160,9 @@ TEST_F(BulkLoadTest, FindsAKeyThatComesTwice)
 {
     objConnection->Execute("create table K (k int primary key)");
     BulkLoad load(*objHandle);
-    load.Begin("K", {"k"});
-    load.Append(Row{Value(1)});
-    load.Append(Row{Value(1)});
+    BulkTable* table = &load.Open("K", {"k"});
+    table->Append(Row{Value(1)});
+    table->Append(Row{Value(1)});
     try {
         load.Commit();
         ADD_FAILURE();
@@ -162,9 +177,9 @@ TEST_F(BulkLoadTest, LearnsWhatTheTextsAreLike)
     objConnection->Execute(
         "create table F (a nvarchar(9), b nvarchar(9), c nvarchar(9), d nvarchar(9), e nvarchar(9))");
     BulkLoad load(*objHandle);
-    load.Begin("F", {"a", "b", "c", "d", "e"});
-    load.Append(Row{Value("A1"), Value("a1"), Value("A1 "), Value("直运A"), Value("É")});
-    load.Append(Row{Value("B-2"), Value("B2"), Value("B2"), Value::Null(), Value("")});
+    BulkTable* table = &load.Open("F", {"a", "b", "c", "d", "e"});
+    table->Append(Row{Value("A1"), Value("a1"), Value("A1 "), Value("直运A"), Value("É")});
+    table->Append(Row{Value("B-2"), Value("B2"), Value("B2"), Value::Null(), Value("")});
     load.Commit();
     const std::vector<ObjectInfo> objects = objHandle->Objects(Database::Account);
     const TextFacts wanted[] = {{true, true}, {true, false}, {false, true}, {true, true}, {true, false}};
@@ -181,10 +196,10 @@ TEST_F(BulkLoadTest, LearnsWhatTheTextsOfEveryTableAreLike)
     objConnection->Execute("create table F (a nvarchar(9))\r\ncreate table G (a nvarchar(9))");
     {
         BulkLoad load(*objHandle);
-        load.Begin("F", {"a"});
-        load.Append(Row{Value("5.5kW ")});
-        load.Begin("G", {"a"});
-        load.Append(Row{Value("A1")});
+        BulkTable* table = &load.Open("F", {"a"});
+        table->Append(Row{Value("5.5kW ")});
+        table = &load.Open("G", {"a"});
+        table->Append(Row{Value("A1")});
         load.Commit();
     }
     for (const ObjectInfo& object : objHandle->Objects(Database::Account)) {
@@ -200,9 +215,9 @@ TEST_F(BulkLoadTest, LoadsMoreRowsThanOneChunkHolds)
 {
     objConnection->Execute("create table tempdb..L (n int, c nvarchar(20))");
     BulkLoad load(*objHandle);
-    load.Begin("tempdb..L", {"n", "c"});
+    BulkTable* table = &load.Open("tempdb..L", {"n", "c"});
     for (int i = 1; i <= 10000; ++i)
-        load.Append(Row{Value(i), i % 3 == 0 ? Value::Null() : Value("text number " + std::to_string(i))});
+        table->Append(Row{Value(i), i % 3 == 0 ? Value::Null() : Value("text number " + std::to_string(i))});
     load.Commit();
     // Of 1 to 10,000 there are 3,333 that 3 divides.
     EXPECT_EQ(Rows("select count(*), sum(n), count(c) from tempdb..L"), "10000 | 50005000 | 6667\n");

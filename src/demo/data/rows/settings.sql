@@ -1,35 +1,10 @@
--- Parameters of the modules.
-insert into AccInformation (cSysID, cName, cValue, cDefault) values
-(N'AA', N'cSysVersion', N'工业', N'工业'),
-(N'AA', N'iStrsQuanDecDgt', N'2', N'2'),
-(N'AA', N'iExchRateDecDgt', N'4', N'4'),
-(N'AA', N'bCommitSell', N'False', N'False'),
-(N'aa', N'ArchiveDate', NULL, NULL),
-(N'CA', N'iCyFtMethod', N'1', N'0'),
-(N'EX', N'dEXFirstDate', N'', N''),
-(N'SA', N'bFQSK', N'True', N'False'),
-(N'SA', N'bZYXS', N'True', N'False'),
-(N'IA', N'bSaleType', N'销售出库单', N'销售出库单'),
-(N'IA', N'cEnDispAccountStyle', N'发出商品', N'销售出库单'),
-(N'IA', N'cExSaleAccType', N'销售发票', N'销售出库单'),
-(N'IA', N'cValueStyle', N'按仓库核算', N'按仓库核算'),
-(N'IA', N'cEstimate', N'单到回冲', N'月初回冲'),
-(N'IA', N'cDispLevel', N'12', N'12'),
-(N'IA', N'dIAStartDate', N'2008-01-01', NULL),
-(N'IA', N'dIAFirstDate', N'2008-01-01', NULL),
-(N'OM', N'dOMFirstDate', N'2008-01-01', NULL),
-(N'IA', N'bWarehouseCheck', N'FALSE', N'FALSE'),
-(N'IA', N'bDepartmentCheck', N'FALSE', N'FALSE'),
-(N'IA', N'bInventoryCheck', N'FALSE', N'FALSE'),
-(N'IA', N'bOperatorCheck', N'FALSE', N'FALSE')
-
 -- Names of the user fields of the inventory; a field without a name is not used.
 insert into UserDef (cClass, cItem, cItemName) values
 (N'存货', N'自定义项1', N'产地'),
 (N'存货', N'自定义项2', N'保质期'),
 (N'存货', N'自定义项3', N'安全等级'),
-(N'存货', N'自定义项4', NULL),
-(N'存货', N'自定义项5', NULL),
+(N'存货', N'自定义项4', N'采购员'),
+(N'存货', N'自定义项5', N'图号'),
 (N'存货', N'自定义项6', NULL),
 (N'存货', N'自定义项7', NULL),
 (N'存货', N'自定义项8', NULL),

@@ -1,0 +1,17 @@
+// What the library shows to the user.
+#pragma once
+
+#include <functional>
+#include <string>
+
+namespace kavelin::host {
+
+struct ShownMessage {
+    std::string text;
+    int icon;  // kInformation or kWarning
+
+    bool operator==(const ShownMessage&) const = default;
+};
+using MessageSink = std::function<void(const ShownMessage&)>;
+
+}  // namespace kavelin::host

@@ -35,7 +35,7 @@ class DispatchedObject : public LateBound {
         const Dispatch& found = Find(member);
         if (!found.call)
             throw Error(std::string(found.name) + " is a property.");
-        if (arguments.size() != found.arguments)
+        if (arguments.size() > found.arguments || arguments.size() + found.optional < found.arguments)
             throw Error(std::string(found.name) + " takes " + std::to_string(found.arguments) +
                         " arguments, not " + std::to_string(arguments.size()) + ".");
         return found.call(arguments);

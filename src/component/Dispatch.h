@@ -18,6 +18,7 @@ struct Dispatch {
     std::function<void(const Variant&)> put = {};
     std::function<Variant(const std::vector<Variant>&)> call = {};
     std::size_t arguments = 0;
+    std::size_t optional = 0;  // of the arguments, that many at the end may be left out
 };
 
 // A late-bound object over the members of `object`, which it keeps alive.

@@ -10,5 +10,7 @@ namespace kavelin {
 std::shared_ptr<LateBound> CreateProPortion();
 std::shared_ptr<LateBound> CreateAreaStockReport();
 std::shared_ptr<LateBound> CreateBusiness();
+std::shared_ptr<LateBound> CreateWtInfo();
+std::shared_ptr<LateBound> CreateStaCostacc();
 
 }  // namespace kavelin

@@ -33,11 +33,11 @@ TEST(Completion, BashOffersWhatMayFollow)
     const struct {
         std::string_view words, offered;
     } cases[] = {
-        {"kavelin ''", "account completion demo fields query reports run"},
+        {"kavelin ''", "account completion demo fields open query reports run"},
         {"kavelin r", "reports run"},
         {"kavelin --v", "--version"},
-        {"kavelin account ''", "create export load"},
-        {"kavelin run ''", "area-table capital-share"},
+        {"kavelin account ''", "check create export load"},
+        {"kavelin run ''", "area-table capital-share journal standard-cost-journal"},
         {"kavelin run cap", "capital-share"},
         {"kavelin run capital-share ''", ""},
         {"kavelin run capital-share --f", "--filter --format"},
@@ -51,6 +51,10 @@ TEST(Completion, BashOffersWhatMayFollow)
         {"kavelin completion z", "zsh"},
         {"kavelin run --language en", "en-US"},
         {"kavelin query --lim", ""},
+        {"kavelin demo --l", "--lines --list-profiles"},
+        {"kavelin demo --profile s", "shop"},
+        {"kavelin demo --profile in", "industry invoices"},
+        {"kavelin account check --format ''", "json table"},
     };
     for (const auto& c : cases) {
         const std::string offered = Shell(

@@ -1,7 +1,7 @@
 // The journal on the demo companies, beside what other queries tell about their ledgers and documents.
 #include "demo/profiles/Profile.h"
 #include "frame/Text.h"
-#include "reports/DemoReport.h"
+#include "reports/AccountReport.h"
 
 #include <gtest/gtest.h>
 
@@ -50,7 +50,7 @@ class JournalOf : public testing::TestWithParam<std::string> {
     void ExpectLedger(std::vector<std::string> settings, const std::string& condition)
     {
         settings.insert(settings.begin(), kPosted);
-        DemoReport report(objProfile, "journal", settings);
+        AccountReport report(objProfile, "journal", settings);
         const std::string wanted = report.Rows(LedgerSums(condition));
         EXPECT_EQ(report.Rows(kJournalSums), wanted) << settings.back();
         EXPECT_FALSE(wanted.starts_with("0 ")) << settings.back() << " shows nothing";
@@ -96,7 +96,7 @@ TEST_P(JournalOf, ShowsTheHalvesOfAVoucherType)
 
 TEST_P(JournalOf, ShowsTheRowsOfOneAccountingVoucher)
 {
-    DemoReport report(objProfile, "journal", {kPosted, "PzNoID=7"});
+    AccountReport report(objProfile, "journal", {kPosted, "PzNoID=7"});
     EXPECT_EQ(
         report.Rows("select count(*) from {}"),
         report.Rows("select count(*) from IA_Subsidiary a inner join gl_AccVouch g on g.cOutNo_ID = a.cPZID"
@@ -110,7 +110,7 @@ TEST_P(JournalOf, ShowsTheRowsOfOneAccountingVoucher)
 // rules of their own: which document posts a sale, and whether another one of the same sale is posted.
 TEST_P(JournalOf, ShowsEachUnpostedDocumentOnce)
 {
-    DemoReport report(objProfile, "journal", {kUnposted});
+    AccountReport report(objProfile, "journal", {kUnposted});
     EXPECT_TRUE(report.Messages().empty());
     std::map<std::string, int> shown;
     for (const auto& row : report.Table("select AutoID from {}"))
@@ -162,7 +162,7 @@ TEST_P(JournalOf, ShowsEachUnpostedDocumentOnce)
 TEST_P(JournalOf, ShowsPostedAndUnpostedTogether)
 {
     const auto count = [&](const std::vector<std::string>& settings) {
-        return std::stol(DemoReport(objProfile, "journal", settings).Rows("select count(*) from {}"));
+        return std::stol(AccountReport(objProfile, "journal", settings).Rows("select count(*) from {}"));
     };
     EXPECT_EQ(count({kPosted, kUnposted}), count({kPosted}) + count({kUnposted}));
     EXPECT_EQ(count({"vouEstate="}), 0);

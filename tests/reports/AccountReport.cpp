@@ -1,10 +1,12 @@
-#include "reports/DemoReport.h"
+#include "reports/AccountReport.h"
 
+#include "demo/AccountFiles.h"
 #include "demo/DemoCompany.h"
 #include "frame/Text.h"
 #include "host/Config.h"
 #include "host/FilterInput.h"
 #include "host/FilterTemplate.h"
+#include "host/HostConnection.h"
 #include "host/Reports.h"
 #include "host/StatementLog.h"
 
@@ -64,12 +66,35 @@ std::string AccountOf(const demo::Profile& profile)
     return accounts.Of(profile);
 }
 
-DemoReport::DemoReport(const demo::Profile& profile, const std::string& report,
-                       const std::vector<std::string>& settings, const std::string& user)
+SmallAccount::SmallAccount()
+{
+    static int number = 0;
+    const fs::path folder = fs::temp_directory_path() /
+                            ("kavelin-small-" + std::to_string(::getpid()) + "-" + std::to_string(++number));
+    fs::create_directories(folder);
+    strPath = (folder / "small.kavelin").string();
+    demo::CreateEmptyAccount(strPath);
+}
+
+SmallAccount::~SmallAccount()
+{
+    std::error_code ignored;
+    fs::remove_all(fs::path(strPath).parent_path(), ignored);
+}
+
+void SmallAccount::Run(const std::string& sql)
+{
+    const auto connection = Connections().Open("setup", host::EmbeddedConnectionString(strPath, "zh-CN"), "");
+    connection->Execute(sql);
+    connection->Close();
+}
+
+AccountReport::AccountReport(const std::string& path, const std::string& report,
+                             const std::vector<std::string>& settings, const std::string& language)
 {
     host::Flags flags;
-    flags.account = AccountOf(profile);
-    flags.user = user;
+    flags.account = path;
+    flags.language = language;
     const host::Config config = host::Config::Load(flags);
     objRun = std::make_unique<host::ReportRun>(host::LoginFor(config, *config.Account()), Connections());
     host::FilterInput input(host::TemplateOf(report), host::ValuePolicy::Checked);
@@ -78,7 +103,13 @@ DemoReport::DemoReport(const demo::Profile& profile, const std::string& report,
     objRun->Run(host::FindReport(report), input);
 }
 
-std::vector<std::vector<std::string>> DemoReport::Table(const std::string& sql)
+AccountReport::AccountReport(const demo::Profile& profile, const std::string& report,
+                             const std::vector<std::string>& settings)
+    : AccountReport(AccountOf(profile), report, settings)
+{
+}
+
+std::vector<std::vector<std::string>> AccountReport::Table(const std::string& sql)
 {
     const auto rows =
         objRun->Account().OpenRecordset(ReplaceAll(sql, "{}", objRun->TableName()), CursorLocation::Client,
@@ -94,7 +125,7 @@ std::vector<std::vector<std::string>> DemoReport::Table(const std::string& sql)
     return table;
 }
 
-std::string DemoReport::Rows(const std::string& sql)
+std::string AccountReport::Rows(const std::string& sql)
 {
     std::string text;
     for (const std::vector<std::string>& row : Table(sql)) {

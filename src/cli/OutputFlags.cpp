@@ -2,7 +2,9 @@
 
 #include "cli/Messages.h"
 #include "cli/Terminal.h"
+#include "frame/Text.h"
 #include "host/HostErrors.h"
+#include "host/output/ChosenColumns.h"
 
 #include <fmt/format.h>
 #include <CLI/CLI.hpp>
@@ -18,6 +20,11 @@ void AddOutputFlags(CLI::App& command, OutputFlags& flags, bool withLimit)
     command.add_option("--output", flags.file, "Write the rows to a file, which appears when it is whole")
         ->type_name("FILE");
     if (withLimit)
+        command
+            .add_option("--columns", flags.columns,
+                        "Put out these columns, separated by commas; all: every one")
+            ->type_name("A,B,C");
+    if (withLimit)
         command.add_option("--limit", flags.limit, "Put out the first N rows only")->type_name("N");
 }
 
@@ -32,6 +39,9 @@ RowsTarget::RowsTarget(const OutputFlags& flags)
     }
     if (!flags.limit.empty())
         objOptions.limit = WholeNumber("--limit", flags.limit, 0);
+    blnColumnsGiven = !flags.columns.empty();
+    if (!EqualsNoCase(flags.columns, "all"))
+        lstColumns = host::ColumnNames(flags.columns);
     if (flags.file) {
         objFile = std::make_unique<host::OutputFile>(*flags.file);
     } else {
@@ -45,7 +55,25 @@ std::ostream& RowsTarget::Stream()
     return objFile ? objFile->Stream() : std::cout;
 }
 
+void RowsTarget::SetTableColumns(std::string_view columns)
+{
+    if (!blnColumnsGiven && objOptions.format == host::OutputFormat::Table)
+        lstColumns = host::ColumnNames(std::string(columns));
+}
+
 void RowsTarget::Write(Recordset& rows)
+{
+    if (lstColumns.empty()) {
+        WriteAll(rows);
+        return;
+    }
+    WriteAll(*host::ChooseColumns(rows, lstColumns));
+    if (!blnColumnsGiven)
+        Say(fmt::format("{} of {} columns. --columns all, csv and json show the others.", lstColumns.size(),
+                        rows.FieldCount()));
+}
+
+void RowsTarget::WriteAll(Recordset& rows)
 {
     if (blnWritten && objOptions.format != host::OutputFormat::Json)
         Stream() << (objOptions.format == host::OutputFormat::Csv ? "\r\n" : "\n");

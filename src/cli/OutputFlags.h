@@ -8,6 +8,8 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace CLI {
 class App;
@@ -19,6 +21,7 @@ struct OutputFlags {
     std::string format;
     std::optional<std::string> file;
     std::string limit;
+    std::string columns;  // "A,B,C", "all", or empty for what the rows' table shows by itself
 };
 
 // `flags` must live as long as the command.
@@ -30,6 +33,10 @@ class RowsTarget {
     // cannot be written.
     explicit RowsTarget(const OutputFlags& flags);
 
+    // What a table shows of rows that are too wide for one, unless --columns says otherwise. Machine forms show
+    // all.
+    void SetTableColumns(std::string_view columns);
+
     // May be called for several row sets; an empty line stands between two of them, but not in JSON.
     // Throws OutputClosed when nobody reads stdout any more, Error when it takes no more.
     void Write(Recordset& rows);
@@ -39,9 +46,12 @@ class RowsTarget {
 
   private:
     std::ostream& Stream();
+    void WriteAll(Recordset& rows);
 
     host::OutputOptions objOptions;
     std::unique_ptr<host::OutputFile> objFile;  // null: stdout
+    std::vector<std::string> lstColumns;        // empty: all
+    bool blnColumnsGiven = false;               // by the user
     bool blnWritten = false;
 };
 

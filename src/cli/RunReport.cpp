@@ -12,6 +12,7 @@ void RunReport(const host::Report& report, const host::FilterInput& input, const
     run.Run(report, input);
     const std::unique_ptr<Recordset> rows = run.OpenResult();
     work.EndProgress();
+    target.SetTableColumns(report.tableColumns);
     target.Write(*work.Stoppable(*rows));
     target.Finish();
 }

@@ -25,13 +25,21 @@ constexpr RowAction kStandardCostActions[] = {
     {"DifPZ", "the voucher of the cost differences"},
 };
 
+// Of the wide results what a reader of a journal looks for first.
+constexpr std::string_view kJournalColumns =
+    "单据日期,单据号,凭证号,业务类型,仓库,存货编码,存货名称,收入数量,收入单价,收入金额,发出数量,发出单价,发出金额";
+constexpr std::string_view kStandardCostColumns =
+    "dvoudate,cvoucode,ipzcode,cbustype,cwhname,cinvcode,iinquantity,istdinprice,iindif,iinprice,ioutquantity,"
+    "istdoutprice,ioutdif,ioutprice";
+
 // Two lines a report: name, titles; class, filter identity, order, statements.
 // clang-format off
 constexpr Report kReports[] = {
     {"journal", "流水账", "Inventory journal",
-     "ClsWtInfo", "IA[__]流水账", "", 0, kJournalActions},
+     "ClsWtInfo", "IA[__]流水账", "", 0, kJournalColumns, kJournalActions},
     {"standard-cost-journal", "标准成本流水账", "Standard-cost journal",
-     "clsStaCostacc", "C921AEDB-0DCD-4185-BCAA-00326BC8504F", "", 0, kStandardCostActions},
+     "clsStaCostacc", "C921AEDB-0DCD-4185-BCAA-00326BC8504F", "", 0,
+     kStandardCostColumns, kStandardCostActions},
     {"stock-summary", "收发存汇总表", "Receipt-issue-balance summary",
      "clsSfcSumInfo", "F3D99620-46E3-465E-97C7-ECD73735B108", "", 0},
     {"estimate-balance", "暂估材料余额表", "Estimate balance",

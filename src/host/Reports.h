@@ -20,6 +20,8 @@ struct Report {
     std::string_view filterId;   // identity of its filter; empty for a report without a dialog
     std::string_view orderBy;    // columns by which its result is read; empty: as the database gives it
     int statements;              // that a usual run sends, for a progress line; 0: not known
+    // What its table shows of a result that is too wide for one, separated by commas; empty: all columns.
+    std::string_view tableColumns = {};
     // Commands by which a row of the result is opened, the usual one first; none: rows open nothing.
     std::span<const RowAction> actions = {};
 

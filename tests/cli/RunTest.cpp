@@ -124,6 +124,25 @@ TEST_F(RunTest, AFilterCutsTheResult)
     EXPECT_EQ(json::parse(three.out).size(), 3u) << three.err;
 }
 
+TEST_F(RunTest, ColumnsAreChosenByNameOrByTheReport)
+{
+    const Outcome two = OnDemo({"run", "capital-share", "--columns", "cinvcode,CNO", "--format", "csv"});
+    ASSERT_EQ(two.exitCode, 0) << two.err;
+    EXPECT_EQ(Lines(two.out).front(), "cinvcode,cNo\r");
+
+    const Outcome journal = OnDemo({"run", "journal", "--limit", "3"});
+    ASSERT_EQ(journal.exitCode, 0) << journal.err;
+    EXPECT_NE(Lines(journal.out).front().find("存货编码"), std::string::npos);
+    EXPECT_EQ(Lines(journal.out).front().find("cdefine1"), std::string::npos);
+    EXPECT_NE(journal.err.find("13 of 124 columns"), std::string::npos) << journal.err;
+    const Outcome all = OnDemo({"run", "journal", "--limit", "3", "--columns", "all"});
+    EXPECT_NE(Lines(all.out).front().find("cdefine1"), std::string::npos);
+
+    const Outcome none = OnDemo({"run", "capital-share", "--columns", "nix"});
+    EXPECT_EQ(none.exitCode, 2);
+    EXPECT_NE(none.err.find("no column \"nix\""), std::string::npos) << none.err;
+}
+
 TEST_F(RunTest, ALimitCutsWhatIsPutOut)
 {
     // The four largest shares differ; of equal ones, either may come first in another run.

@@ -1,0 +1,20 @@
+// Some columns of a record set, in an order of their own.
+#pragma once
+
+#include "frame/Connection.h"
+
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace kavelin::host {
+
+// The columns of `rows` that are named, without regard to case and in that order; `rows` must outlive the answer.
+// Throws UsageError for a name that is no column of it, with those that are.
+std::unique_ptr<Recordset> ChooseColumns(Recordset& rows, std::span<const std::string> names);
+
+// "A, B,C" as names; empty parts are passed over.
+std::vector<std::string> ColumnNames(const std::string& list);
+
+}  // namespace kavelin::host

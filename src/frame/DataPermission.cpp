@@ -1,6 +1,7 @@
 #include "frame/DataPermission.h"
 
 #include "frame/AccountParameters.h"
+#include "frame/Guards.h"
 #include "frame/ModPub.h"
 
 namespace kavelin {
@@ -61,11 +62,12 @@ std::string AskForList(const std::string& object, const std::string& rule, const
 {
     const AuthGuard guard;
     ModPubState& state = ModPub();
-    state.gobjAuth = state.gobjLogin->AuthService();
+    LoginContext& login = Existing(state.gobjLogin);
+    state.gobjAuth = login.AuthService();
     if (!state.gobjAuth) {
         state.gobjAuth = CurrentPlatform().CreateAuthService();
-        const std::string connectionText = state.gobjLogin->ConnectionText();
-        state.gobjAuth->Initialise(connectionText, state.gobjLogin->UserId());
+        const std::string connectionText = login.ConnectionText();
+        state.gobjAuth->Initialise(connectionText, login.UserId());
     }
 
     if (rule == "103")

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <utility>
 
 namespace kavelin::demo {
 
@@ -48,9 +47,9 @@ void Estimates::Add(const Document& receipt, std::int32_t line, const LineEntry&
     open.inParts = shown ? number == 0 : random.Chance(kInPartsPercent);
     open.asEstimated = shown ? number == 1 : random.Chance(kAsEstimatedPercent);
     if (shown ? number == 2 : random.Chance(kNeverPercent))
-        dicLines[kNever].push_back(std::move(open));
+        dicLines[kNever].push_back(open);
     else
-        Wait(std::move(open), day, false);
+        Wait(open, day, false);
 }
 
 void Estimates::BringForward(const DocumentType& type, const Party& vendor, const Place& place,
@@ -100,7 +99,7 @@ void Estimates::Wait(Line line, sys_days day, bool furtherPart)
                                                                             : false;
     if (waitsForMonth)
         due = std::max(due, FirstOfNextMonth(day));
-    dicLines[due].push_back(std::move(line));
+    dicLines[due].push_back(line);
 }
 
 void Estimates::BeginMonth(sys_days day)
@@ -144,14 +143,14 @@ bool Estimates::Settle(sys_days day)
         std::vector<Line>& due = dicLines.begin()->second;
         if (!CanSettle(due.back()))
             return settled > 0;
-        Line line = std::move(due.back());
+        Line line = due.back();
         due.pop_back();
         if (due.empty())
             dicLines.erase(dicLines.begin());
 
         Book(line, NextInvoice(line), day);
         if (line.quantity > 0)
-            Wait(std::move(line), day, true);
+            Wait(line, day, true);
         ++settled;
     }
     return settled > 0;

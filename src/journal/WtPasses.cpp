@@ -110,8 +110,7 @@ std::string InsertInvoices(const WtUnpostedRun& run, std::string_view source)
         run.flags.cEnDispAccountStyle == kInvoice ? "" : "and NoSub.cBusType not in (N'委托',N'委托代销')";
 
     return JoinLines({
-        InsertFrom(run, source) + run.strJoin,
-        " left join rdrecords32 rdrecords  ON NoSub.ID=rdrecords.ISBSID",
+        InsertFrom(run, source) + run.strJoin + " left join rdrecords32 rdrecords  ON NoSub.ID=rdrecords.ISBSID",
         " LEFT JOIN dispatchlists ON NoSub.cDLCode=dispatchlists.IDLSID",
         " LEFT JOIN rdrecords32 Rs2 ON dispatchlists.IDLSID=Rs2.IDLSID",
         " where isnull(NoSub.cAccounter,'')='' and " + run.strWhere + " and left(NoSub.cBusType,2)<>N'直运'",
@@ -123,16 +122,19 @@ std::string InsertInvoices(const WtUnpostedRun& run, std::string_view source)
     });
 }
 
+// Consignment lines of which an export issue note is posted.
+constexpr const char* kPostedExportIssues =
+    " left join (select idlsid,max(cbaccounter) as cbaccounter,csource from rdrecord32 rdrecord"
+    " inner join rdrecords32 rdrecords on rdrecord.id=rdrecords.id"
+    " where (isnull(csource,N'')=N'出口销货单' or isnull(csource,N'')=N'出口退货单')"
+    " and isnull(cbaccounter,N'')<>N'' group by idlsid,csource )  rdm on "
+    "  rdm.idlsid = NoSub.iconsignmentautoid ";
+
 // Export invoices, unless an issue note made from their consignment is posted.
 std::string InsertExportInvoices(const WtUnpostedRun& run, std::string_view source)
 {
     return JoinLines({
-        InsertFrom(run, source) + run.strJoin,
-        " left join (select idlsid,max(cbaccounter) as cbaccounter,csource from rdrecord32 rdrecord"
-        " inner join rdrecords32 rdrecords on rdrecord.id=rdrecords.id"
-        " where (isnull(csource,N'')=N'出口销货单' or isnull(csource,N'')=N'出口退货单')"
-        " and isnull(cbaccounter,N'')<>N'' group by idlsid,csource )  rdm on "
-        "  rdm.idlsid = NoSub.iconsignmentautoid ",
+        InsertFrom(run, source) + run.strJoin + kPostedExportIssues,
         " where isnull(NoSub.cAccounter,N'')=N'' and " + run.strWhere +
             " and left(NoSub.cBusType,2)<>N'直运'",
         " and  isnull(rdm.cbaccounter,'')=''  and NoSub.cvoutype in (N'EX26',N'EX27') ",

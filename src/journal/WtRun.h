@@ -23,9 +23,8 @@ WtFlags ReadWtFlags();
 struct WtRun {
     std::string strTable;
     std::string strSelect;  // the select list
-    std::string strJoin;
+    std::string strJoin;  // ends its line
     std::string strWhere;     // in front of it stands nothing, not even "where"
-    std::string strVouTypes;  // of the ledger: " And (...)"; of the documents: the plain list; empty for all
 };
 
 }  // namespace kavelin

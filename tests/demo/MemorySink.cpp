@@ -39,6 +39,12 @@ std::string MemoryTable::Text(std::size_t row, std::string_view column) const
     return value.IsNull() ? std::string() : ToText(value);
 }
 
+std::int64_t MemoryTable::Number(std::size_t row, std::string_view column) const
+{
+    const Value& value = At(row, column);
+    return value.IsNull() ? 0 : static_cast<std::int64_t>(ToDouble(value));
+}
+
 std::int64_t MemoryTable::Hundredths(std::size_t row, std::string_view column) const
 {
     const Value& value = At(row, column);

@@ -26,6 +26,9 @@ struct MemoryTable : RowTable {
     // As text; null is empty.
     std::string Text(std::size_t row, std::string_view column) const;
 
+    // As a whole number; null is 0.
+    std::int64_t Number(std::size_t row, std::string_view column) const;
+
     // As hundredths; null is 0. Exact for the amounts and quantities of the generator.
     std::int64_t Hundredths(std::size_t row, std::string_view column) const;
 };

@@ -7,6 +7,16 @@
 
 namespace kavelin::demo {
 
+namespace {
+
+// Its part of what the movement cost that it follows.
+std::int64_t CostFromSource(const Movement& movement, std::span<const Movement> month)
+{
+    return movement.part.Of(month[static_cast<std::size_t>(movement.source)].cost);
+}
+
+}  // namespace
+
 std::int64_t CostPart::Of(std::int64_t cost) const
 {
     return Share(cost, after, total) - Share(cost, before, total);
@@ -98,7 +108,7 @@ void MonthlyAverage::Cost(std::span<Movement> month)
 
     for (Movement& movement : month) {
         if (movement.source != Movement::kNobody)
-            movement.cost = movement.part.Of(month[static_cast<std::size_t>(movement.source)].cost);
+            movement.cost = CostFromSource(movement, month);
         else if (!movement.known)
             movement.cost = LastCost(movement.quantity);
         Book(movement);
@@ -112,7 +122,7 @@ void PerpetualValuation::Cost(std::span<Movement> month)
         const bool last = movement.quantity > 0 && movement.quantity == objLeft.quantity &&
                           IsPossible(objLeft.quantity, objLeft.amount);
         if (movement.source != Movement::kNobody)
-            movement.cost = movement.part.Of(month[static_cast<std::size_t>(movement.source)].cost);
+            movement.cost = CostFromSource(movement, month);
         else if (!movement.known)
             movement.cost = last ? objLeft.amount : IssueCost(movement.quantity);
         Moved(movement);
@@ -143,7 +153,7 @@ void PlannedPrice::Cost(std::span<Movement> month)
     for (Movement& movement : month) {
         const std::int64_t atPrice = AtPrice(movement.quantity);
         if (movement.source != Movement::kNobody)
-            movement.cost = movement.part.Of(month[static_cast<std::size_t>(movement.source)].cost);
+            movement.cost = CostFromSource(movement, month);
         else if (!movement.known)
             movement.cost = atPrice + (sound ? Share(difference, atPrice, planned) : 0);
         movement.difference = movement.cost - atPrice;

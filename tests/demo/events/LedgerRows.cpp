@@ -6,12 +6,6 @@ namespace kavelin::demo {
 
 namespace {
 
-std::int64_t Number(const MemoryTable& table, std::size_t row, std::string_view column)
-{
-    const Value& value = table.At(row, column);
-    return value.IsNull() ? 0 : static_cast<std::int64_t>(ToDouble(value));
-}
-
 PlayedYear Play(std::string_view name, std::int64_t lines)
 {
     const Profile* profile = FindProfile(name);
@@ -28,17 +22,17 @@ PlayedYear Play(std::string_view name, std::int64_t lines)
         row.business = ledger.Text(i, "cBusType");
         row.item = ledger.Text(i, "cInvCode");
         row.warehouse = ledger.Text(i, "cWhCode");
-        row.line = Number(ledger, i, "ID");
-        row.month = static_cast<int>(Number(ledger, i, "iMonth"));
-        row.flag = static_cast<int>(Number(ledger, i, "bFlag"));
-        row.receipt = Number(ledger, i, "bRdFlag") == 1;
+        row.line = ledger.Number(i, "ID");
+        row.month = static_cast<int>(ledger.Number(i, "iMonth"));
+        row.flag = static_cast<int>(ledger.Number(i, "bFlag"));
+        row.receipt = ledger.Number(i, "bRdFlag") == 1;
         row.quantity = ledger.Hundredths(i, row.receipt ? "iAInQuantity" : "iAOutQuantity");
         const std::int64_t difference =
             ledger.Hundredths(i, "iDebitDifCost") - ledger.Hundredths(i, "iCreditDifCost");
         row.cost = row.receipt ? ledger.Hundredths(i, "iAInPrice") + difference
                                : ledger.Hundredths(i, "iAOutPrice") - difference;
         row.materialFee = ledger.Hundredths(i, "iMaterialFee");
-        row.settlement = Number(ledger, i, "psvsid");
+        row.settlement = ledger.Number(i, "psvsid");
         row.documentDay = ToDate(ledger.At(i, "dVouDate"));
         row.postingDay = ToDate(ledger.At(i, "dKeepDate"));
         year.rows.push_back(std::move(row));
@@ -46,7 +40,7 @@ PlayedYear Play(std::string_view name, std::int64_t lines)
 
     const MemoryTable& settlements = sink.Table("Pursettlevouchs");
     for (std::size_t i = 0; i < settlements.rows.size(); ++i)
-        year.settlements[Number(settlements, i, "ID")] = {settlements.Hundredths(i, "iSVQuantity"),
+        year.settlements[settlements.Number(i, "ID")] = {settlements.Hundredths(i, "iSVQuantity"),
                                                           settlements.Hundredths(i, "iSVPrice"),
                                                           settlements.Hundredths(i, "MaterialFee")};
     return year;

@@ -6,12 +6,6 @@ namespace kavelin::demo {
 
 namespace {
 
-std::int64_t Number(const MemoryTable& table, std::size_t row, std::string_view column)
-{
-    const Value& value = table.At(row, column);
-    return value.IsNull() ? 0 : static_cast<std::int64_t>(ToDouble(value));
-}
-
 SaleYear Read(const Profile& profile, const MemorySink& sink)
 {
     SaleYear year;
@@ -29,17 +23,17 @@ SaleYear Read(const Profile& profile, const MemorySink& sink)
         head.saleType = documents.Text(i, "cSTCode");
         const std::string day = FormatDate(ToDate(documents.At(i, "dVouDate")));
         head.month = day.starts_with("2008") ? std::stoi(day.substr(5, 2)) : 0;
-        heads[Number(documents, i, "DocID")] = head;
+        heads[documents.Number(i, "DocID")] = head;
     }
 
     const MemoryTable& lines = sink.Table("Demo_DocumentLine");
     for (std::size_t i = 0; i < lines.rows.size(); ++i) {
-        WrittenLine line = heads.at(Number(lines, i, "DocID"));
-        line.id = Number(lines, i, "LineID");
+        WrittenLine line = heads.at(lines.Number(i, "DocID"));
+        line.id = lines.Number(i, "LineID");
         line.quantity = lines.Hundredths(i, "iQuantity");
-        line.dispatchLine = Number(lines, i, "iDLsID");
-        line.invoiceLine = Number(lines, i, "iSBsID");
-        line.consignmentLine = Number(lines, i, "iConsignmentAutoID");
+        line.dispatchLine = lines.Number(i, "iDLsID");
+        line.invoiceLine = lines.Number(i, "iSBsID");
+        line.consignmentLine = lines.Number(i, "iConsignmentAutoID");
         line.guid = lines.Text(i, "cGuid");
         line.guidSource = lines.Text(i, "cGuidSource");
         line.posted = !lines.Text(i, "cAccounter").empty();
@@ -49,10 +43,10 @@ SaleYear Read(const Profile& profile, const MemorySink& sink)
     const MemoryTable& stock = sink.Table("IA_Subsidiary");
     for (std::size_t i = 0; i < stock.rows.size(); ++i) {
         PostedRow row;
-        row.line = Number(stock, i, "ID");
+        row.line = stock.Number(i, "ID");
         row.type = stock.Text(i, "cVouType");
         row.business = stock.Text(i, "cBusType");
-        row.receipt = Number(stock, i, "bRdFlag") == 1;
+        row.receipt = stock.Number(i, "bRdFlag") == 1;
         row.quantity = stock.Hundredths(i, row.receipt ? "iAInQuantity" : "iAOutQuantity");
         row.cost = stock.Hundredths(i, row.receipt ? "iAInPrice" : "iAOutPrice");
         // A difference is part of the cost where goods are kept at planned prices.
@@ -64,15 +58,15 @@ SaleYear Read(const Profile& profile, const MemorySink& sink)
     const MemoryTable& transit = sink.Table("IA_EnSubsidiary");
     for (std::size_t i = 0; i < transit.rows.size(); ++i) {
         InTransitRow row;
-        row.line = Number(transit, i, "inid");
+        row.line = transit.Number(i, "inid");
         row.type = transit.Text(i, "cVouType");
-        row.sourceLine = Number(transit, i, "iSrcID");
+        row.sourceLine = transit.Number(i, "iSrcID");
         row.sourceType = transit.Text(i, "cSrcVouType");
-        row.outLine = Number(transit, i, "OutID");
-        row.dispatchLine = Number(transit, i, "iDLsID");
+        row.outLine = transit.Number(i, "OutID");
+        row.dispatchLine = transit.Number(i, "iDLsID");
         row.business = transit.Text(i, "cBusType");
-        row.month = static_cast<int>(Number(transit, i, "iMonth"));
-        row.in = Number(transit, i, "bRdFlag") == 1;
+        row.month = static_cast<int>(transit.Number(i, "iMonth"));
+        row.in = transit.Number(i, "bRdFlag") == 1;
         row.quantity = transit.Hundredths(i, row.in ? "iAInQuantity" : "iAOutQuantity");
         row.amount = transit.Hundredths(i, row.in ? "iAInPrice" : "iAOutPrice");
         year.transit.push_back(row);

@@ -149,7 +149,7 @@ BoundExprPtr Wrap(BoundExprPtr operand, const SqlType& type, ConversionKind kind
 {
     const TextFacts facts = FactsOfConversion(kind, operand->type, operand->facts, type);
     const bool asked = kind == ConversionKind::Explicit || kind == ConversionKind::Style121;
-    const bool nullable = asked ? !IsConstant(*operand) : operand->nullable;
+    const bool nullable = asked || operand->nullable;
     const Place place = operand->place;
     return MakeBound(BoundConversion{kind, std::move(operand), {}}, type, nullable, place, facts);
 }
@@ -198,6 +198,7 @@ BoundExprPtr Convert(BoundExprPtr operand, const SqlType& type, ConversionKind k
             operand->facts = type.IsText() ? FactsOf(*text) : TextFacts{};
             operand->node = BoundLiteral{false, std::move(*text)};
             operand->type = type;
+            operand->nullable = operand->nullable || asked;  // a column made by a cast takes nulls
             return operand;
         }
     }

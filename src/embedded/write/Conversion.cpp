@@ -8,6 +8,7 @@ namespace {
 
 constexpr const char* kDayZero = "TIMESTAMP '1900-01-01 00:00:00'";
 constexpr const char* kMicrosecondsOfADay = "86400000000e0";
+constexpr int kNarrow = 18;  // digits that DuckDB keeps in 64 bits
 
 // Days since 1900-01-01 with their fraction.
 std::string DaysOf(const std::string& datetime)
@@ -37,10 +38,32 @@ std::string ToDatetime(const Conversion& conversion, const std::string& operand)
            Cast(operand, {.kind = TypeKind::Float}) + " * 86400000)))";
 }
 
-std::string ToDecimal(const Conversion& conversion, const std::string& operand)
+// Whether digits behind the point go from a number that DuckDB keeps in 128 bits.
+bool RoundsWideNumber(const SqlType& from, const SqlType& to)
+{
+    const bool wide =
+        from.kind == TypeKind::Money || (from.kind == TypeKind::Decimal && from.precision > kNarrow);
+    return wide && ScaleOf(from) <= kNarrow && ScaleOf(from) > ScaleOf(to);
+}
+
+// Dividing numbers of 128 bits is slow in DuckDB; few amounts need them:
+//   coalesce(CAST(TRY_CAST(m AS DECIMAL(18,4)) AS DECIMAL(38,2)), CAST(m AS DECIMAL(38,2)))
+std::string RoundedWideNumber(const Conversion& conversion, const std::string& operand, Scratch& scratch)
+{
+    const std::string narrow =
+        "DECIMAL(" + std::to_string(kNarrow) + "," + std::to_string(ScaleOf(conversion.from)) + ")";
+    return scratch.Repeat(operand, [&](const std::string& number) {
+        return "coalesce(" + Cast("TRY_CAST(" + number + " AS " + narrow + ")", conversion.to) + ", " +
+               Cast(number, conversion.to) + ")";
+    });
+}
+
+std::string ToDecimal(const Conversion& conversion, const std::string& operand, Scratch& scratch)
 {
     if (conversion.from.kind == TypeKind::Datetime)
         return Cast(DaysOf(operand), conversion.to);
+    if (RoundsWideNumber(conversion.from, conversion.to))
+        return RoundedWideNumber(conversion, operand, scratch);
     return Cast(operand, conversion.to);
 }
 
@@ -68,7 +91,7 @@ std::string WriteConversion(const Conversion& conversion, const std::string& ope
         case TypeKind::Int:
         case TypeKind::Bigint: return ToWhole(conversion, operand);
         case TypeKind::Money:
-        case TypeKind::Decimal: return ToDecimal(conversion, operand);
+        case TypeKind::Decimal: return ToDecimal(conversion, operand, scratch);
         case TypeKind::Float: return from.kind == TypeKind::Datetime ? DaysOf(operand) : Cast(operand, to);
         case TypeKind::Datetime: return ToDatetime(conversion, operand);
         case TypeKind::Null:

@@ -1,5 +1,6 @@
 #include "embedded/write/DuckTypes.h"
 #include "embedded/write/Kept.h"
+#include "embedded/write/LeftJoin.h"
 #include "embedded/write/Quote.h"
 #include "embedded/write/TextFold.h"
 #include "embedded/write/Writer.h"
@@ -255,6 +256,17 @@ std::string Writer::Sources(const std::vector<BoundSourcePtr>& sources)
     return Join(written, ", ");
 }
 
+namespace {
+
+// Of a table or derived table.
+int NumberOf(const BoundSource& source)
+{
+    const auto* table = std::get_if<BoundTable>(&source.node);
+    return table ? table->number : std::get<BoundDerived>(source.node).number;
+}
+
+}  // namespace
+
 std::string Writer::Source(const BoundSource& source)
 {
     if (const auto* table = std::get_if<BoundTable>(&source.node))
@@ -263,6 +275,9 @@ std::string Writer::Source(const BoundSource& source)
         return "(" + Query(*derived->query) + ") AS " + Alias(derived->number);
 
     const auto& join = std::get<BoundJoin>(source.node);
+    if (NeedsInnerJoin(join) && NumberOf(*join.right) != intRowsOf)
+        return Source(*join.left) + " LEFT JOIN LATERAL (SELECT * FROM " + Source(*join.right) + " WHERE " +
+               Clause(*join.on) + ") AS " + Alias(NumberOf(*join.right)) + " ON TRUE";
     const bool nested = std::holds_alternative<BoundJoin>(join.right->node);
     const std::string right = nested ? "(" + Source(*join.right) + ")" : Source(*join.right);
     return Source(*join.left) + (join.kind == JoinKind::Left ? " LEFT JOIN " : " INNER JOIN ") + right +

@@ -1,6 +1,8 @@
 // Statements as plans: the DuckDB steps, and what they change in the catalogue.
+#include "embedded/write/LookupUpdate.h"
 #include "embedded/write/Quote.h"
 #include "embedded/write/Tables.h"
+#include "embedded/write/TextFold.h"
 #include "embedded/write/Writer.h"
 
 namespace kavelin::embedded {
@@ -114,6 +116,33 @@ std::string Where(const BoundExprPtr& where, Writer& writer)
     return where ? " WHERE " + writer.Clause(*where) : "";
 }
 
+// update t set c = s.v from t inner join s on s.k = t.k
+//   UPDATE t AS "s1" SET "c" = "s2".v
+//     FROM (SELECT DISTINCT ON ("s2".k) "s2".v, "s2".k FROM s AS "s2") AS "s2" WHERE "s2".k = "s1".k
+// The same as in the general form below, without gathering the target's rows first.
+std::string UpdateByLookup(const BoundUpdate& statement, const LookupUpdate& lookup, Writer& writer)
+{
+    const std::string alias = Writer::Alias(lookup.table->number);
+    std::vector<std::string> assignments, keys, columns, conditions;
+    for (const BoundAssignment& assignment : statement.assignments)
+        assignments.push_back(QuoteName(assignment.column) + " = " + writer.Value(*assignment.value));
+    for (const BoundExpr* key : lookup.keys) {
+        const std::string value = writer.Value(*key);
+        keys.push_back(key->type.IsText() ? FoldAlone(value, key->facts) : value);
+    }
+    for (const std::string& column : lookup.columns)
+        columns.push_back(alias + "." + QuoteName(column) + " AS " + QuoteName(column));
+    for (const BoundExpr* condition : lookup.conditions)
+        conditions.push_back(writer.Condition(*condition));
+
+    const BoundExpr& on = *std::get<BoundJoin>(statement.from.front()->node).on;
+    return "UPDATE " + statement.duckName + " AS " + Writer::Alias(statement.target) + " SET " +
+           Join(assignments, ", ") + " FROM (SELECT DISTINCT ON (" + Join(keys, ", ") + ") " +
+           Join(columns, ", ") + " FROM " + lookup.table->duckName + " AS " + alias +
+           (conditions.empty() ? "" : " WHERE " + Join(conditions, " AND ")) + ") AS " + alias + " WHERE " +
+           writer.Clause(on) + (statement.where ? " AND " + writer.Clause(*statement.where) : "");
+}
+
 // update t set c = v from t a inner join ...
 //   UPDATE t AS g SET "c" = v.v0
 //     FROM (SELECT DISTINCT ON ("s1".rowid) "s1".rowid AS r, v AS v0 FROM t AS "s1" INNER JOIN ...) AS v
@@ -123,6 +152,12 @@ std::string Where(const BoundExprPtr& where, Writer& writer)
 StatementPlan WriteStatement(const BoundUpdate& statement)
 {
     Writer writer(BareName(statement.duckName), "UPDATE");
+    writer.KeepRowsOf(statement.target);
+    if (const std::optional<LookupUpdate> lookup = FindLookup(statement)) {
+        StatementPlan plan = Changing(UpdateByLookup(statement, *lookup, writer));
+        Weaken(plan, statement.weakened);
+        return plan;
+    }
     const bool alone = IsAlone(statement.from);
     std::vector<std::string> assignments, values{Writer::Alias(statement.target) + ".rowid AS r"};
     for (const BoundAssignment& assignment : statement.assignments) {
@@ -149,6 +184,7 @@ StatementPlan WriteStatement(const BoundUpdate& statement)
 StatementPlan WriteStatement(const BoundDelete& statement)
 {
     Writer writer;
+    writer.KeepRowsOf(statement.target);
     const std::string alias = Writer::Alias(statement.target);
     if (IsAlone(statement.from))
         return Changing("DELETE FROM " + statement.duckName + " AS " + alias +

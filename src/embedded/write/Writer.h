@@ -30,6 +30,9 @@ class Writer {
 
     std::string Sources(const std::vector<BoundSourcePtr>& sources);
 
+    // The statement asks for the rowid of this source, which a join therefore shows as it is.
+    void KeepRowsOf(int source) { intRowsOf = source; }
+
     struct QueryForm {
         // Columns named by position, c0 c1 ..., not by their items.
         bool positional = false;
@@ -133,6 +136,7 @@ class Writer {
     Scratch objScratch;
     State objState;
     std::string strTable, strVerb;
+    int intRowsOf = -1;
 };
 
 }  // namespace kavelin::embedded

@@ -173,12 +173,12 @@ TEST(BindTypes, F2TypesAreReadWithTheirDefaults)
 TEST(BindTypes, T22ALiteralCastToADecimalHasAllItsPlaces)
 {
     EXPECT_EQ(BoundValue("cast(cast(1.5 as decimal(10,2)) as nvarchar(10))"),
-              "nvarchar(10) not null trimmed caseless = '1.50':nvarchar(10)");
+              "nvarchar(10) trimmed caseless = '1.50':nvarchar(10)");
     EXPECT_EQ(BoundValue("cast(0.125 as decimal(10,2))"),
-              "decimal(10,2) not null = cast(0.125:decimal(3,3) as decimal(10,2))");
-    EXPECT_EQ(BoundValue("cast(2.7 as int)"), "int not null = cast(2.7:decimal(2,1) as int)");
-    EXPECT_EQ(BoundValue("cast(0 as float)"), "float not null = 0:float");
-    EXPECT_EQ(BoundValue("cast('abc' as nvarchar(2))"), "nvarchar(2) not null trimmed = 'ab':nvarchar(2)");
+              "decimal(10,2) = cast(0.125:decimal(3,3) as decimal(10,2))");
+    EXPECT_EQ(BoundValue("cast(2.7 as int)"), "int = cast(2.7:decimal(2,1) as int)");
+    EXPECT_EQ(BoundValue("cast(0 as float)"), "float = 0:float");
+    EXPECT_EQ(BoundValue("cast('abc' as nvarchar(2))"), "nvarchar(2) trimmed = 'ab':nvarchar(2)");
 }
 
 TEST(BindTypes, F4Style121WritesTheDateAsDigits)

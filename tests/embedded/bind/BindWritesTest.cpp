@@ -56,7 +56,7 @@ TEST(BindSelectInto, I3KeepsNotNullOfColumnsAndConstants)
               "  m: tinyint not null\n"
               "  n: int\n"
               "  c: bit\n"
-              "  f: float not null");
+              "  f: float");
 }
 
 TEST(BindSelectInto, I4I5PassesIdentityOnFromASingleSourceOnly)

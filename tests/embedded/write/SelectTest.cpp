@@ -152,7 +152,7 @@ TEST(WriteSelect, T29GivesAggregatesTheirTypes)
     }
 }
 
-TEST(WriteSelect, SumsMoneyWithOneCastBehindTheSum)
+TEST(WriteSelect, SumsMoneyWithItsCastBehindTheSum)
 {
     const auto difference = [] {
         return Compute(Column("m", kMoney), ArithmeticOp::Subtract, Column("m", kMoney), kMoney);
@@ -161,7 +161,8 @@ TEST(WriteSelect, SumsMoneyWithOneCastBehindTheSum)
               R"(CAST(sum(("s1"."m" - "s1"."m")) AS DECIMAL(19,4)))");
     EXPECT_EQ(Writer().Value(*Convert(Aggregate(AggregateKind::Sum, Column("m", kMoney), kMoney), kSum,
                                       ConversionKind::Explicit)),
-              R"(CAST(sum("s1"."m") AS DECIMAL(38,2)))");
+              R"(coalesce(CAST(TRY_CAST(sum("s1"."m") AS DECIMAL(18,4)) AS DECIMAL(38,2)), )"
+              R"(CAST(sum("s1"."m") AS DECIMAL(38,2))))");
 }
 
 TEST(WriteSelect, Q2FindsDistinctTextsByTheirFold)
@@ -359,6 +360,25 @@ TEST(WriteSelect, F9LooksForObjectsInTheDatabaseThatTheNameGives)
     EXPECT_EQ(identifier("x"), R"((SELECT "id" FROM "work"."main"."sysobjects" WHERE lower("name") = 'x'))");
     EXPECT_EQ(identifier("VosSystem..y"),
               R"((SELECT "id" FROM "work"."main"."sysobjects_system" WHERE lower("name") = 'y'))");
+}
+
+// Row by row else: DuckDB hashes a left join only by values of one side each.
+TEST(WriteSelect, Q3JoinsWithinWhatALeftJoinAsksOfTheLeftRowBesideAnEquality)
+{
+    const auto written = [](BoundExprPtr more) {
+        BoundSelect select =
+            From(Joined(JoinKind::Left, TableNamed("t", 1), TableNamed("t", 2),
+                        Both(Equal(Column("n", kInt, {}, 1), Column("n", kInt, {}, 2)), std::move(more))));
+        Item(select, "n", Column("n", kInt, {}, 2));
+        return Write(QueryOf(std::move(select)));
+    };
+    const auto isSeven = [](int source) { return Equal(Column("t", kInt, {}, source), Number(7)); };
+    const std::string within = R"( FROM "t" AS "s1" LEFT JOIN LATERAL (SELECT * FROM "t" AS "s2" WHERE )";
+
+    EXPECT_NE(written(isSeven(1)).find(within), std::string::npos) << written(isSeven(1));
+    EXPECT_NE(written(isSeven(1)).find(R"() AS "s2" ON TRUE)"), std::string::npos);
+    EXPECT_EQ(written(isSeven(2)).find("LATERAL"), std::string::npos) << "of the right row alone";
+    EXPECT_EQ(written(isSeven(3)).find("LATERAL"), std::string::npos) << "of a row around";
 }
 
 }  // namespace kavelin::embedded

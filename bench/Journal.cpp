@@ -150,6 +150,7 @@ int main(int argumentCount, char** arguments)
     host::ReportRun run(host::LoginFor(config, *config.Account()), host::ConnectionSource());
     host::FilterInput posted(host::TemplateOf("journal"), host::ValuePolicy::Checked);
     posted.Set("vouEstate", "已记账单据");
+    posted.Set("iMonth", "");  // all of them
     const host::Report& report = host::FindReport("journal");
 
     const auto account = embedded::OpenAccount(*flags.account);

@@ -35,23 +35,46 @@ std::filesystem::path DemoAccountPath(std::string_view profile)
                : path.parent_path() / fmt::format("demo-{}.kavelin", profile);
 }
 
-host::AccountSettings ChosenAccount(const host::Config& config)
+host::Config LoadConfig(const host::Flags& flags)
+{
+    if (flags.language && *flags.language != host::kChinese && *flags.language != host::kEnglish)
+        throw host::UsageError(fmt::format("--language takes zh-CN or en-US, not \"{}\".", *flags.language));
+    return host::Config::Load(flags);
+}
+
+namespace {
+
+std::optional<host::AccountSettings> AccountIfAny(const host::Config& config)
 {
     if (auto account = config.Account())
-        return *account;
+        return account;
     const std::filesystem::path demo = DemoAccountPath();
     std::error_code ignored;
     if (std::filesystem::exists(demo, ignored))
         return config.Account(demo.string());
+    return std::nullopt;
+}
+
+}  // namespace
+
+host::AccountSettings ChosenAccount(const host::Config& config)
+{
+    if (const auto account = AccountIfAny(config))
+        return *account;
     throw host::UsageError("No account is named. Give one with --account, or make a demo: kavelin demo");
 }
 
 host::AccountLogin ChosenLogin(const host::Flags& flags)
 {
-    if (flags.language && *flags.language != host::kChinese && *flags.language != host::kEnglish)
-        throw host::UsageError(fmt::format("--language takes zh-CN or en-US, not \"{}\".", *flags.language));
-    const host::Config config = host::Config::Load(flags);
+    const host::Config config = LoadConfig(flags);
     return host::LoginFor(config, ChosenAccount(config));
+}
+
+std::optional<host::AccountLogin> LoginIfAny(const host::Flags& flags)
+{
+    const host::Config config = LoadConfig(flags);
+    const auto account = AccountIfAny(config);
+    return account ? std::optional(host::LoginFor(config, *account)) : std::nullopt;
 }
 
 }  // namespace kavelin::cli

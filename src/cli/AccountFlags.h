@@ -26,11 +26,17 @@ void AddLoginFlags(CLI::App& command, host::Flags& flags);
 std::filesystem::path DemoAccountPath();
 std::filesystem::path DemoAccountPath(std::string_view profile);
 
+// The settings of the flags, the environment and the files. Throws UsageError.
+host::Config LoadConfig(const host::Flags& flags);
+
 // The account of the flags and settings; the demo account if none is named and it is there. Throws
 // UsageError if there is neither.
 host::AccountSettings ChosenAccount(const host::Config& config);
 
 // The login for that account.
 host::AccountLogin ChosenLogin(const host::Flags& flags);
+
+// The same; nothing where ChosenAccount finds no account.
+std::optional<host::AccountLogin> LoginIfAny(const host::Flags& flags);
 
 }  // namespace kavelin::cli

@@ -21,6 +21,7 @@ std::string Offer(const CompletionOption& option)
         case Completes::Report: return "COMPREPLY=($(compgen -W \"$reports\" -- \"$cur\"))";
         case Completes::Key:
             return "COMPREPLY=($(compgen -S = -W \"$keys\" -- \"$cur\")); compopt -o nospace 2>/dev/null";
+        case Completes::KeyName: return "COMPREPLY=($(compgen -W \"$keys\" -- \"$cur\"))";
         case Completes::Nothing: break;
     }
     return "";

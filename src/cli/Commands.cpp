@@ -9,8 +9,10 @@ void AddCommands(CLI::App& program, Action& action)
     AddDemo(program, action);
     AddReports(program, action);
     AddFields(program, action);
+    AddLookup(program, action);
     AddRun(program, action);
     AddOpen(program, action);
+    AddAbcOptions(program, action);
     AddAccount(program, action);
     AddQuery(program, action);
     AddCompletion(program, action);

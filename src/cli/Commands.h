@@ -15,8 +15,10 @@ using Action = std::function<void()>;
 void AddDemo(CLI::App& program, Action& action);
 void AddReports(CLI::App& program, Action& action);
 void AddFields(CLI::App& program, Action& action);
+void AddLookup(CLI::App& program, Action& action);
 void AddRun(CLI::App& program, Action& action);
 void AddOpen(CLI::App& program, Action& action);
+void AddAbcOptions(CLI::App& program, Action& action);
 void AddAccount(CLI::App& program, Action& action);
 void AddAccountCheck(CLI::App& account, Action& action);  // below the one above
 void AddQuery(CLI::App& program, Action& action);

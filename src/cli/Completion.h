@@ -11,7 +11,8 @@ class App;
 
 namespace kavelin::cli {
 
-enum class Completes { Nothing, Words, File, Folder, Report, Key };
+// A Key is one of the report with "=" behind it, a KeyName without.
+enum class Completes { Nothing, Words, File, Folder, Report, Key, KeyName };
 
 struct CompletionOption {
     std::string name;  // "--format"

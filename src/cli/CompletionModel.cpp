@@ -2,9 +2,11 @@
 #include "demo/profiles/Profile.h"
 #include "host/FilterTemplate.h"
 #include "host/Reports.h"
+#include "host/definition/ReportDefinition.h"
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <string_view>
 
 namespace kavelin::cli {
@@ -26,11 +28,34 @@ std::vector<std::string> ProfileNames()
     return names;
 }
 
+// Commands on the result of some report, each once.
+std::vector<std::string> Actions()
+{
+    std::vector<std::string> names;
+    for (const host::Report& report : host::AllReports())
+        for (const host::RowAction& action : report.actions)
+            if (std::ranges::find(names, action.name) == names.end())
+                names.emplace_back(action.name);
+    return names;
+}
+
+// By which some report can be grouped.
+std::vector<std::string> Dimensions()
+{
+    std::vector<std::string> names;
+    for (const host::Report& report : host::AllReports())
+        if (report.definition)
+            for (const std::string_view name : report.definition->dimensions())
+                names.emplace_back(name);
+    return names;
+}
+
 const std::vector<ValueKind>& ValueKinds()
 {
     static const std::vector<ValueKind> kinds = {
         {"REPORT", Completes::Report, {}},
         {"KEY=VALUE", Completes::Key, {}},
+        {"KEY", Completes::KeyName, {}},
         {"FILE", Completes::File, {}},
         {"PATH", Completes::File, {}},
         {"A", Completes::File, {}},
@@ -38,6 +63,8 @@ const std::vector<ValueKind>& ValueKinds()
         {"FORM", Completes::Words, {"table", "csv", "json"}},
         {"CHECKFORM", Completes::Words, {"table", "json"}},
         {"PROFILE", Completes::Words, ProfileNames()},
+        {"ACTION", Completes::Words, Actions()},
+        {"DIMENSIONS", Completes::Words, Dimensions()},
         {"LANGUAGE", Completes::Words, {"zh-CN", "en-US"}},
         {"POLICY", Completes::Words, {"checked", "legacy"}},
         {"SHELL", Completes::Words, {"bash", "zsh", "fish"}},

@@ -181,7 +181,7 @@ void Demo(const std::string& program, const DemoFlags& flags)
 
     const host::FilterInput input(host::TemplateOf(kReport), host::ValuePolicy::Checked);
     RowsTarget target(OutputFlags{});
-    RunReport(host::FindReport(kReport), input, LoginTo(account), target, false);
+    RunReport(host::FindReport(kReport), input, LoginTo(account), target);
     SayWhatNext(program, account);
 }
 

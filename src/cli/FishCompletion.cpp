@@ -33,7 +33,8 @@ std::string ValueOf(const CompletionOption& option)
         case Completes::File: return " -F";
         case Completes::Folder: return " -a '(__fish_complete_directories)'";
         case Completes::Report: return " -a '(__kavelin_reports)'";
-        case Completes::Key: return " -a '(__kavelin_keys)'";
+        case Completes::Key: return " -a '(__kavelin_keys =)'";
+        case Completes::KeyName: return " -a '(__kavelin_keys)'";
         case Completes::Nothing: break;
     }
     return "";
@@ -68,8 +69,8 @@ std::string FishScript(const CompletionModel& model)
     text += "end\n\nfunction __kavelin_keys\n    for word in (commandline -opc)\n        switch $word\n";
     for (const CompletionReport& report : model.reports)
         if (!report.keys.empty())
-            text += fmt::format("            case {}\n                printf '%s=\\n' {}\n", report.name,
-                                Joined(report.keys));
+            text += fmt::format("            case {}\n                printf \"%s$argv[1]\\n\" {}\n",
+                                report.name, Joined(report.keys));
     text += "        end\n    end\nend\n\n";
     for (const CompletionCommand& command : model.commands)
         text += Lines(model, command);

@@ -1,52 +1,54 @@
 // kavelin open REPORT --row N
+#include "cli/AbcOptionsCommand.h"
 #include "cli/AccountFlags.h"
 #include "cli/Commands.h"
-#include "cli/FilterFlags.h"
 #include "cli/Help.h"
 #include "cli/Messages.h"
-#include "cli/OutputFlags.h"
+#include "cli/ReportFlags.h"
+#include "cli/RunReport.h"
 #include "cli/Work.h"
+#include "frame/Text.h"
 #include "host/HostErrors.h"
 #include "host/ReportRun.h"
-#include "host/Reports.h"
 
 #include <fmt/format.h>
 #include <CLI/CLI.hpp>
 
-#include <iostream>
 #include <memory>
 
 namespace kavelin::cli {
 
 namespace {
 
-struct OpenFlags {
-    std::string report;
+struct OpenFlags : ReportFlags {
     std::string row;
     std::string action;
-    host::Flags login;
-    FilterFlags filter;
-    OutputFlags output;
-    bool showSql = false;
 };
 
-const host::Report& ReportOf(const OpenFlags& flags)
+const host::Report& OpeningReport(const CLI::App& command, const OpenFlags& flags)
 {
-    if (flags.report.empty())
-        throw host::UsageError("open needs the name of a report. The names: kavelin reports");
-    const host::Report& report = host::FindReport(flags.report);
+    const host::Report& report = ReportOf(command, flags);
     if (report.actions.empty())
         throw host::UsageError(fmt::format("Behind the rows of {} is nothing to open.", report.name));
     return report;
 }
 
-void Open(const OpenFlags& flags)
+// What is to be done. A name that the host doesn't know is the report's to judge.
+host::RowAction ActionOf(const host::Report& report, const OpenFlags& flags)
 {
-    const host::Report& report = ReportOf(flags);
+    if (flags.action.empty())
+        return report.actions.front();
+    for (const host::RowAction& action : report.actions)
+        if (EqualsNoCase(action.name, flags.action))
+            return {flags.action, action.opens, action.kind};
+    return {flags.action, "", report.actions.front().kind};
+}
+
+void OpenRow(const host::Report& report, const OpenFlags& flags, const std::string& action)
+{
     if (flags.row.empty())
         throw host::UsageError("open needs --row: the number of a row of the result, from 1.");
     const std::int64_t row = WholeNumber("--row", flags.row, 1);
-    const std::string action = flags.action.empty() ? std::string(report.actions.front().name) : flags.action;
     const host::FilterInput input = InputOf(report, flags.filter);
     RowsTarget target(flags.output);
 
@@ -66,43 +68,66 @@ void Open(const OpenFlags& flags)
     target.Finish();
 }
 
-// The general help with what this report opens.
-void ShowReportHelp(const CLI::App& command, const host::Report& report)
+void DrawAgain(const host::Report& report, const OpenFlags& flags, const std::string& action)
+{
+    const host::FilterInput input = InputOf(report, flags.filter);
+    RowsTarget target(flags.output);
+    Work work({flags.showSql, report.statements * 2});
+    host::ReportRun run(ChosenLogin(flags.login), work.Connections(), work.Messages());
+    run.RunAndDrawAgain(report, input, action);
+    WriteResult(report, run, target, work);
+    target.Finish();
+}
+
+void Open(const CLI::App& command, const OpenFlags& flags)
+{
+    const host::Report& report = OpeningReport(command, flags);
+    const host::RowAction chosen = ActionOf(report, flags);
+    const std::string action(chosen.name);
+    if (chosen.kind == host::ActionKind::OpensRow) {
+        OpenRow(report, flags, action);
+        return;
+    }
+    if (!flags.row.empty())
+        throw host::UsageError(fmt::format("{} is about the whole report, so it takes no --row.", action));
+    if (chosen.kind == host::ActionKind::ShowsOptions)
+        ShowAbcOptions(flags.login, {}, flags.output);
+    else
+        DrawAgain(report, flags, action);
+}
+
+// What this report opens, in front of the general options.
+std::string ReportHelp(const CLI::App& command, const host::Report& report)
 {
     const std::string path = fmt::format("{} {}", CommandPath(command), report.name);
-    std::string text = fmt::format("{}  {}\n\nUsage: {} --row N [OPTION]...\n\nWhat --action opens:\n",
-                                   report.titleChinese, report.titleEnglish, path);
+    const bool byRow = report.actions.front().kind == host::ActionKind::OpensRow;
+    std::string text = fmt::format("{}  {}\n\nUsage: {}{} [OPTION]...\n\nWhat --action opens:\n",
+                                   report.titleChinese, report.titleEnglish, path, byRow ? " --row N" : "");
     for (const host::RowAction& action : report.actions)
         text += fmt::format("  {:<10}  {}\n", action.name, action.opens);
-    std::cout << text << HelpOptions(command);
+    return text;
 }
 
 }  // namespace
 
 void AddOpen(CLI::App& program, Action& action)
 {
-    CLI::App* command = AddCommand(program, "open", "Show the document or voucher behind a row of a report",
+    CLI::App* command = AddCommand(program, "open", "Show what is behind a report or a row of it",
                                    "open journal --row 3\n"
                                    "open journal --row 3 --action Voucher --set vouEstate=已记账单据\n"
+                                   "open abc --action ActB\n"
                                    "open journal --help                    # its actions");
     const auto flags = std::make_shared<OpenFlags>();
-    command->add_option("report", flags->report, "Name of the report")->type_name("REPORT");
+    AddReportArgument(*command, *flags);
     command->add_option("--row", flags->row, "Number of the row in the report's result, from 1")
         ->type_name("N");
-    command->add_option("--action", flags->action, "What to open; by default the document")
-        ->type_name("NAME");
-    AddAccountFlag(*command, flags->login);
-    AddFilterFlags(*command, flags->filter);
-    AddLoginFlags(*command, flags->login);
-    AddOutputFlags(*command, flags->output, false);
-    command->add_flag("--show-sql", flags->showSql, "Show every statement on stderr");
-    OnChosen(
-        *command, action, [flags] { Open(*flags); },
-        [flags, command] {
-            if (flags->report.empty())
-                std::cout << HelpText(*command);
-            else
-                ShowReportHelp(*command, ReportOf(*flags));
+    command->add_option("--action", flags->action, "What to open; by default the first that --help names")
+        ->type_name("ACTION");
+    AddReportFlags(*command, *flags, false);
+    OnReportChosen(
+        *command, action, flags, [flags, command] { Open(*command, *flags); },
+        [flags, command](const host::Report&) {
+            return ReportHelp(*command, OpeningReport(*command, *flags));
         });
 }
 

@@ -14,6 +14,12 @@
 
 namespace kavelin::cli {
 
+namespace {
+
+const host::LocalText kTotal = {"合计", "Total"};
+
+}  // namespace
+
 void AddOutputFlags(CLI::App& command, OutputFlags& flags, bool withLimit)
 {
     command.add_option("--format", flags.format, "table (by default), csv or json")->type_name("FORM");
@@ -63,14 +69,45 @@ void RowsTarget::SetTableColumns(std::string_view columns)
 
 void RowsTarget::Write(Recordset& rows)
 {
+    if (!objLines.column.empty())
+        objOptions.isLine = [this, &rows] { return ToText(rows.Field(objLines.column)) == objLines.value; };
+    WriteChosen(rows);
+    objOptions.isLine = nullptr;
+}
+
+void RowsTarget::WriteChosen(Recordset& rows)
+{
     if (lstColumns.empty()) {
         WriteAll(rows);
         return;
     }
-    WriteAll(*host::ChooseColumns(rows, lstColumns));
-    if (!blnColumnsGiven)
-        Say(fmt::format("{} of {} columns. --columns all, csv and json show the others.", lstColumns.size(),
+    const std::vector<std::string> columns =
+        blnColumnsGiven ? lstColumns : host::FindColumns(rows, lstColumns);
+    WriteAll(*host::ChooseColumns(rows, columns));
+    if (!blnColumnsGiven && static_cast<int>(columns.size()) < rows.FieldCount())
+        Say(fmt::format("{} of {} columns. --columns all, csv and json show the others.", columns.size(),
                         rows.FieldCount()));
+}
+
+void RowsTarget::WriteView(Recordset& rows, Recordset& totals, const std::vector<host::ViewColumn>& columns,
+                           std::string_view language)
+{
+    const bool choose = !blnColumnsGiven && objOptions.format == host::OutputFormat::Table;
+    for (const host::ViewColumn& column : columns) {
+        objOptions.columns.push_back({column.name, column.heading.In(language), column.whole, column.rank});
+        if (choose)
+            lstColumns.push_back(column.name);
+    }
+    objOptions.totals = {&totals, kTotal.In(language)};
+    Write(rows);
+    objOptions.totals = {};
+}
+
+void RowsTarget::WriteWhole(Recordset& rows)
+{
+    objOptions.whole = true;
+    WriteAll(rows);
+    objOptions.whole = false;
 }
 
 void RowsTarget::WriteAll(Recordset& rows)

@@ -2,11 +2,14 @@
 #pragma once
 
 #include "frame/Connection.h"
+#include "host/Reports.h"
+#include "host/definition/ReportDefinition.h"
 #include "host/output/Output.h"
 #include "host/output/OutputFile.h"
 
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,25 +36,41 @@ class RowsTarget {
     // cannot be written.
     explicit RowsTarget(const OutputFlags& flags);
 
-    // What a table shows of rows that are too wide for one, unless --columns says otherwise. Machine forms show
-    // all.
+    // What a table shows of rows that are too wide for one, unless --columns says otherwise. Machine forms
+    // show all.
     void SetTableColumns(std::string_view columns);
+
+    // How a table tells the lines of the rows from openings and totals.
+    void SetLines(const host::LineMark& lines) { objLines = lines; }
+
+    // What a table on a terminal shows as a picture too.
+    void SetMarks(std::span<const host::ColumnMark> marks) { objOptions.marks = marks; }
 
     // May be called for several row sets; an empty line stands between two of them, but not in JSON.
     // Throws OutputClosed when nobody reads stdout any more, Error when it takes no more.
     void Write(Recordset& rows);
+
+    // The rows of a report's view. A table has headings in the language and the totals below; in machine forms
+    // columns have their names, and no row is a total.
+    void WriteView(Recordset& rows, Recordset& totals, const std::vector<host::ViewColumn>& columns,
+                   std::string_view language);
+
+    // A list of the program's own: a table shows all of it, without a count.
+    void WriteWhole(Recordset& rows);
 
     // Puts the file in its place.
     void Finish();
 
   private:
     std::ostream& Stream();
+    void WriteChosen(Recordset& rows);
     void WriteAll(Recordset& rows);
 
     host::OutputOptions objOptions;
     std::unique_ptr<host::OutputFile> objFile;  // null: stdout
     std::vector<std::string> lstColumns;        // empty: all
-    bool blnColumnsGiven = false;               // by the user
+    host::LineMark objLines;
+    bool blnColumnsGiven = false;  // by the user
     bool blnWritten = false;
 };
 

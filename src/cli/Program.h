@@ -6,7 +6,7 @@ namespace kavelin::cli {
 // Exit codes.
 inline constexpr int kDone = 0;
 inline constexpr int kFailed = 1;    // the report or the statement failed
-inline constexpr int kWrongUse = 2;  // or a refused value; nothing was sent
+inline constexpr int kWrongUse = 2;  // or a refused value; nothing was changed
 inline constexpr int kNoConnection = 3;
 inline constexpr int kInterrupted = 130;  // Ctrl-C
 

@@ -1,48 +1,63 @@
 // kavelin run REPORT
 #include "cli/AccountFlags.h"
 #include "cli/Commands.h"
-#include "cli/FilterFlags.h"
 #include "cli/Help.h"
-#include "cli/OutputFlags.h"
+#include "cli/ReportFlags.h"
 #include "cli/RunReport.h"
-#include "frame/Text.h"
 #include "host/FilterInput.h"
 #include "host/HostErrors.h"
-#include "host/Reports.h"
+#include "host/chart/ReportChart.h"
 #include "host/output/DisplayWidth.h"
+#include "host/output/OutputFile.h"
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <iostream>
 #include <memory>
 
 namespace kavelin::cli {
 
 namespace {
 
-struct RunFlags {
-    std::string report;
-    host::Flags login;
-    FilterFlags filter;
-    OutputFlags output;
-    bool showSql = false;
+struct RunFlags : ReportFlags {
+    std::string groups;
+    bool lines = false;
+    std::string chart;
 };
 
-const host::Report& ReportOf(const RunFlags& flags)
+// What is to be shown of the result; null for the result itself.
+std::unique_ptr<host::ReportView> ViewOf(const host::Report& report, const host::FilterInput& input,
+                                         const RunFlags& flags)
 {
-    if (flags.report.empty())
-        throw host::UsageError("run needs the name of a report. The names: kavelin reports");
-    return host::FindReport(flags.report);
+    if (!report.definition && (flags.lines || !flags.groups.empty()))
+        throw host::UsageError(fmt::format(
+            "The rows of {} stand as they are: it takes neither --group nor --lines.", report.name));
+    if (flags.lines && !flags.groups.empty())
+        throw host::UsageError("--lines shows rows that are not grouped, so it goes without --group.");
+    return report.definition && !flags.lines ? report.definition->view(input, flags.groups) : nullptr;
 }
 
-void Run(const RunFlags& flags)
+// Null where no picture is asked for. Before anything is run: throws UsageError for a report that has none,
+// Error for a file that cannot be written.
+std::unique_ptr<host::OutputFile> ChartFile(const host::Report& report, const RunFlags& flags)
 {
-    const host::Report& report = ReportOf(flags);
+    if (flags.chart.empty())
+        return nullptr;
+    if (!host::HasChart(report))
+        throw host::UsageError(fmt::format("There is no chart of {}.", report.name));
+    return std::make_unique<host::OutputFile>(flags.chart);
+}
+
+void Run(const CLI::App& command, const RunFlags& flags)
+{
+    const host::Report& report = ReportOf(command, flags);
     const host::FilterInput input = InputOf(report, flags.filter);
+    const std::unique_ptr<host::ReportView> view = ViewOf(report, input, flags);
+    const std::unique_ptr<host::OutputFile> chart = ChartFile(report, flags);
     RowsTarget target(flags.output);
-    RunReport(report, input, ChosenLogin(flags.login), target, flags.showSql);
+    RunReport(report, input, ChosenLogin(flags.login), target, {flags.showSql, view.get(), chart.get()});
 }
 
 std::string Padded(const std::string& text, int width)
@@ -50,8 +65,8 @@ std::string Padded(const std::string& text, int width)
     return text + std::string(std::max(0, width - host::DisplayWidth(text)), ' ');
 }
 
-// The general help with what this report takes in the middle.
-void ShowReportHelp(const CLI::App& command, const host::Report& report)
+// What this report takes, in front of the general options.
+std::string ReportHelp(const CLI::App& command, const host::Report& report)
 {
     const std::vector<host::FilterField>& fields = host::TemplateOf(report.name).fields;
     int keyWidth = 0;
@@ -67,12 +82,22 @@ void ShowReportHelp(const CLI::App& command, const host::Report& report)
     for (const host::FilterField& field : fields)
         if (!field.example.empty())
             text += fmt::format("  {} --set {}={}\n", path, field.key, field.example);
-    text += fmt::format("\nUsage: {} [OPTION]...\n\nKeys of --set:\n", path);
+    if (host::HasChart(report))
+        text += fmt::format("  {0} --chart {1}.svg\n", path, report.name);
+    if (report.definition)
+        text += fmt::format("  {0} --group {1},{2}\n  {0} --lines\n", path,
+                            report.definition->dimensions().at(1), report.definition->dimensions().at(0));
+    text += fmt::format("\nUsage: {} [OPTION]...\n\n", path);
+    if (report.definition)
+        text += fmt::format(
+            "Dimensions of --group, any of them with commas between; by default {}:\n  {}\n\n",
+            report.definition->dimensions().front(), fmt::join(report.definition->dimensions(), ", "));
+    text += "Keys of --set:\n";
     for (const host::FilterField& field : fields)
         text += fmt::format("  {}  {}  {}: {}\n", Padded(field.key, keyWidth),
                             Padded(field.caption.chinese, captionWidth), field.caption.english,
                             host::WhatItTakes(field));
-    std::cout << text << HelpOptions(command);
+    return text;
 }
 
 }  // namespace
@@ -84,22 +109,19 @@ void AddRun(CLI::App& program, Action& action)
                    "run capital-share\n"
                    "run capital-share --set cwhcode=01..03 --set cNo=10\n"
                    "run capital-share --account demo.kavelin --format csv --output shares.csv\n"
+                   "run abc --chart abc.svg\n"
                    "run capital-share --help               # its keys");
     const auto flags = std::make_shared<RunFlags>();
-    command->add_option("report", flags->report, "Name of the report")->type_name("REPORT");
-    AddAccountFlag(*command, flags->login);
-    AddFilterFlags(*command, flags->filter);
-    AddLoginFlags(*command, flags->login);
-    AddOutputFlags(*command, flags->output, true);
-    command->add_flag("--show-sql", flags->showSql, "Show every statement on stderr");
-    OnChosen(
-        *command, action, [flags] { Run(*flags); },
-        [flags, command] {
-            if (flags->report.empty())
-                std::cout << HelpText(*command);
-            else
-                ShowReportHelp(*command, ReportOf(*flags));
-        });
+    AddReportArgument(*command, *flags);
+    command->add_option("--group", flags->groups, "Group a summary by these dimensions, separated by commas")
+        ->type_name("DIMENSIONS");
+    command->add_flag("--lines", flags->lines, "Put out the lines that a summary groups");
+    command->add_option("--chart", flags->chart, "Write a chart of an analysis to a file too, as SVG")
+        ->type_name("FILE");
+    AddReportFlags(*command, *flags, true);
+    OnReportChosen(
+        *command, action, flags, [flags, command] { Run(*command, *flags); },
+        [command](const host::Report& report) { return ReportHelp(*command, report); });
 }
 
 }  // namespace kavelin::cli

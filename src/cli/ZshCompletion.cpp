@@ -25,7 +25,8 @@ std::string ValueAction(const CompletionOption& option)
         case Completes::File: return "_files";
         case Completes::Folder: return "_files -/";
         case Completes::Report: return "_kavelin_reports";
-        case Completes::Key: return "_kavelin_keys";
+        case Completes::Key: return "_kavelin_keys -S =";
+        case Completes::KeyName: return "_kavelin_keys";
         case Completes::Nothing: break;
     }
     return "";
@@ -85,7 +86,7 @@ std::string ZshScript(const CompletionModel& model)
     for (const CompletionReport& report : model.reports)
         text += fmt::format("        *' {} '*|*' {}') keys=({}) ;;\n", report.name, report.name,
                             Joined(report.keys));
-    text += "    esac\n    compadd -S = -- $keys\n}\n\n";
+    text += "    esac\n    compadd \"$@\" -- $keys\n}\n\n";
     for (const CompletionCommand& command : model.commands)
         text += Function(model, command);
     return text +

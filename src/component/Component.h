@@ -18,7 +18,7 @@ enum class MemberKind { Property, Method };
 struct Member {
     std::string_view name;
     MemberKind kind;
-    int arguments = 0;  // of a method
+    int arguments = 0;  // of a method; indexes of a property
 };
 
 struct PublicClass {
@@ -36,5 +36,9 @@ std::shared_ptr<LateBound> CreateObject(std::string_view progId);
 
 // Whether CreateObject makes one.
 bool CanCreate(std::string_view progId);
+
+// The goods-in-transit template, which no public class leads to: a late-bound object with the method
+// CreateNewTemplate(filter, table), which works on gcnnAccount.
+std::shared_ptr<LateBound> CreateGoodsTemplate();
 
 }  // namespace kavelin

@@ -32,16 +32,31 @@ class DispatchedObject : public LateBound {
 
     Variant Call(std::string_view member, const std::vector<Variant>& arguments) override
     {
-        const Dispatch& found = Find(member);
-        if (!found.call)
-            throw Error(std::string(found.name) + " is a property.");
-        if (arguments.size() > found.arguments || arguments.size() + found.optional < found.arguments)
-            throw Error(std::string(found.name) + " takes " + std::to_string(found.arguments) +
-                        " arguments, not " + std::to_string(arguments.size()) + ".");
-        return found.call(arguments);
+        const Dispatch& found = FindMethod(member, arguments.size());
+        if (found.call)
+            return found.call(arguments);
+        std::vector<Variant> dropped = arguments;
+        return found.callByReference(dropped);
+    }
+
+    Variant CallByReference(std::string_view member, std::vector<Variant>& arguments) override
+    {
+        const Dispatch& found = FindMethod(member, arguments.size());
+        return found.call ? found.call(arguments) : found.callByReference(arguments);
     }
 
   private:
+    const Dispatch& FindMethod(std::string_view member, std::size_t arguments) const
+    {
+        const Dispatch& found = Find(member);
+        if (!found.call && !found.callByReference)
+            throw Error(std::string(found.name) + " is a property.");
+        if (arguments > found.arguments || arguments + found.optional < found.arguments)
+            throw Error(std::string(found.name) + " takes " + std::to_string(found.arguments) +
+                        " arguments, not " + std::to_string(arguments) + ".");
+        return found;
+    }
+
     const Dispatch& Find(std::string_view member) const
     {
         for (const Dispatch& candidate : arrMembers)
@@ -89,11 +104,38 @@ Dispatch ObjectProperty(std::string_view name, HostObjectPtr& field)
     return property;
 }
 
+Dispatch IndexedProperty(std::string_view name, std::function<Value(std::uint8_t index)> get,
+                         std::function<void(std::uint8_t index, const Value& value)> put)
+{
+    const auto access = [name, get = std::move(get), put = std::move(put)](const auto& arguments) -> Variant {
+        const std::uint8_t index = ToByte(ValueOf(arguments[0], name));
+        if (arguments.size() == 1)
+            return get(index);
+        put(index, ValueOf(arguments[1], name));
+        return Value();
+    };
+    const auto refuse = [name] { throw Error(std::string(name) + " has an index."); };
+    Dispatch property = Method(name, 2, access);
+    property.optional = 1;
+    property.get = [refuse]() -> Variant { return refuse(), Value(); };
+    property.put = [refuse](const Variant&) { refuse(); };
+    return property;
+}
+
 Dispatch Method(std::string_view name, std::size_t arguments,
                 std::function<Variant(const std::vector<Variant>&)> call)
 {
     Dispatch method{.name = name};
     method.call = std::move(call);
+    method.arguments = arguments;
+    return method;
+}
+
+Dispatch MethodByReference(std::string_view name, std::size_t arguments,
+                           std::function<Variant(std::vector<Variant>&)> call)
+{
+    Dispatch method{.name = name};
+    method.callByReference = std::move(call);
     method.arguments = arguments;
     return method;
 }

@@ -3,6 +3,7 @@
 
 #include "frame/host/HostObject.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -11,12 +12,14 @@
 
 namespace kavelin {
 
-// What a late-bound name leads to. A property has `get` and `put`, a method `call`.
+// What a late-bound name leads to. A property has `get` and `put`, a method `call`, or `callByReference` if it
+// puts something else in the place of an argument.
 struct Dispatch {
     std::string_view name = {};
     std::function<Variant()> get = {};
     std::function<void(const Variant&)> put = {};
     std::function<Variant(const std::vector<Variant>&)> call = {};
+    std::function<Variant(std::vector<Variant>&)> callByReference = {};
     std::size_t arguments = 0;
     std::size_t optional = 0;  // of the arguments, that many at the end may be left out
 };
@@ -28,8 +31,16 @@ Dispatch TextProperty(std::string_view name, std::string& field);
 Dispatch ObjectProperty(std::string_view name, HostObjectPtr& field);
 Dispatch TextProperty(std::string_view name, std::function<std::string()> get,
                       std::function<void(const std::string&)> put);
+
+// A property with an index: called with the index it is read, with the index and a value it is written.
+Dispatch IndexedProperty(std::string_view name, std::function<Value(std::uint8_t index)> get,
+                         std::function<void(std::uint8_t index, const Value& value)> put);
+
 Dispatch Method(std::string_view name, std::size_t arguments,
                 std::function<Variant(const std::vector<Variant>&)> call);
+
+Dispatch MethodByReference(std::string_view name, std::size_t arguments,
+                           std::function<Variant(std::vector<Variant>&)> call);
 
 // A method with one argument of the interface `T`, without a result.
 template <class T, class Call>

@@ -1,10 +1,11 @@
-// Late-bound objects of the journals.
+// Late-bound objects of the journals and the area table.
 #include "component/Dispatch.h"
 #include "component/Factories.h"
 #include "frame/Value.h"
 #include "frame/host/DrillDownArgs.h"
 #include "frame/host/ReportCallArgs.h"
 #include "journal/ClsWtInfo.h"
+#include "journal/clsAreaStockReport.h"
 #include "journal/clsStaCostacc.h"
 
 #include <utility>
@@ -65,6 +66,16 @@ std::shared_ptr<LateBound> CreateStaCostacc()
     });
     create.optional = 1;
     dispatch.push_back(std::move(create));
+    return MakeLateBound(report, std::move(dispatch));
+}
+
+std::shared_ptr<LateBound> CreateAreaStockReport()
+{
+    auto report = std::make_shared<clsAreaStockReport>();
+    clsAreaStockReport& members = *report;
+    std::vector<Dispatch> dispatch = {
+        MethodOn<ReportCallArgs>("GETSQL", [&members](ReportCallArgs& e) { members.GETSQL(e); }),
+    };
     return MakeLateBound(report, std::move(dispatch));
 }
 

@@ -17,8 +17,8 @@ constexpr Member kAreaStockReport[] = {
     {"GETSQL", Method, 1},
 };
 constexpr Member kSFCSumCon[] = {
-    {"strInvCCode", Property},    {"strInvCName", Property},  {"strInvName", Property},
-    {"strInvCode", Property},     {"varDate", Property},      {"strWhCode", Property},
+    {"strInvCCode", Property},    {"strInvCName", Property},  {"strInvName", Property, 1},
+    {"strInvCode", Property, 1},     {"varDate", Property, 1},      {"strWhCode", Property},
     {"strWhStyle", Property},     {"intInvGrade", Property},  {"intRdGrade", Property},
     {"blnWhSum", Property},       {"bytDirect", Property},    {"bytFree", Property},
     {"IntThanZero", Property},    {"IntThanZeroA", Property}, {"strReportType", Property},
@@ -83,22 +83,22 @@ constexpr Member kOutDetailInfo[] = {
 };
 
 constexpr PublicClass kPublicClasses[] = {
-    {"clsFCSumInfo", kFCSumInfo, nullptr},
+    {"clsFCSumInfo", kFCSumInfo, CreateFCSumInfo},
     {"clsAreaStockReport", kAreaStockReport, CreateAreaStockReport},
-    {"clsSFCSumCon", kSFCSumCon, nullptr},
-    {"clsSfcSumInfo", kSfcSumInfo, nullptr},
-    {"clsIASFCReport", kIASFCReport, nullptr},
-    {"clsLastRep", kLastRep, nullptr},
+    {"clsSFCSumCon", kSFCSumCon, CreateSFCSumCon},
+    {"clsSfcSumInfo", kSfcSumInfo, CreateSfcSumInfo},
+    {"clsIASFCReport", kIASFCReport, CreateIASFCReport},
+    {"clsLastRep", kLastRep, CreateLastRep},
     {"ClsWtInfo", kWtInfo, CreateWtInfo},
-    {"clsCinTurnRep", kCinTurnRep, nullptr},
-    {"clsFilterControl", kFilterControl, nullptr},
-    {"ClsABC", kAbc, nullptr},
+    {"clsCinTurnRep", kCinTurnRep, CreateCinTurnRep},
+    {"clsFilterControl", kFilterControl, CreateFilterControl},
+    {"ClsABC", kAbc, CreateABC},
     {"clsProPortion", kProPortion, CreateProPortion},
     {"ClsBusiness", kBusiness, CreateBusiness},
     {"clsStaCostacc", kStaCostacc, CreateStaCostacc},
-    {"clsIaAnalysis", kIaAnalysis, nullptr},
-    {"ClsFCInventory", kFCInventory, nullptr},
-    {"ClsOutDetailInfo", kOutDetailInfo, nullptr},
+    {"clsIaAnalysis", kIaAnalysis, CreateIaAnalysis},
+    {"ClsFCInventory", kFCInventory, CreateFCInventory},
+    {"ClsOutDetailInfo", kOutDetailInfo, CreateOutDetailInfo},
 };
 // clang-format on
 

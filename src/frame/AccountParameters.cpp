@@ -1,6 +1,7 @@
 #include "frame/AccountParameters.h"
 
 #include "frame/AccountStatements.h"
+#include "frame/Guards.h"
 #include "frame/ModPub.h"
 
 namespace kavelin {
@@ -17,7 +18,7 @@ std::unique_ptr<Recordset> OpenForward(Connection& connection, const std::string
 Value GetAccInfoValue(const std::string& cSysID, const std::string& cName)
 {
     Value found = "";
-    const auto rows = OpenForward(*ModPub().gcnnAccount, SelectParameter(cSysID, cName));
+    const auto rows = OpenForward(Existing(ModPub().gcnnAccount), SelectParameter(cSysID, cName));
     if (!rows->Eof()) {
         const Value value = rows->Field("cvalue");
         if (!value.IsNull() && !ToText(value).empty()) {
@@ -35,8 +36,9 @@ std::uint8_t GetSysStartMonth(std::string& strSysID)
 {
     if (strSysID.empty())
         strSysID = "IA";
-    const auto rows = ModPub().gcnnAccount->OpenRecordset(SelectStartDate(strSysID), CursorLocation::Client,
-                                                          CursorType::Static, LockType::Unspecified);
+    const auto rows = Existing(ModPub().gcnnAccount)
+                          .OpenRecordset(SelectStartDate(strSysID), CursorLocation::Client,
+                                         CursorType::Static, LockType::Unspecified);
     if (rows->Eof())
         return 0;
     const Value value = rows->Field("cvalue");
@@ -61,10 +63,11 @@ std::string GetIAStartMonth()
 
 bool GetPeriodDates(std::int32_t lngPeriod, Value* varBegin, Value* varEnd, std::string& strYear)
 {
-    LoginContext& login = *ModPub().gobjLogin;
+    LoginContext& login = Existing(ModPub().gobjLogin);
     if (strYear.empty())
         strYear = login.Year();
-    const auto rows = OpenForward(*ModPub().gcnnSystem, SelectPeriod(login.AccountId(), strYear, lngPeriod));
+    const auto rows =
+        OpenForward(Existing(ModPub().gcnnSystem), SelectPeriod(login.AccountId(), strYear, lngPeriod));
     if (rows->Eof())
         return false;
     if (varBegin)
@@ -77,7 +80,7 @@ bool GetPeriodDates(std::int32_t lngPeriod, Value* varBegin, Value* varEnd, std:
 void GetInvDefineNames(std::array<std::string, 16>& arrNames)
 {
     for (int number = 1; number <= 16; ++number) {
-        const auto rows = OpenForward(*ModPub().gcnnAccount, SelectInvDefineName(number));
+        const auto rows = OpenForward(Existing(ModPub().gcnnAccount), SelectInvDefineName(number));
         for (; !rows->Eof(); rows->MoveNext())
             arrNames[static_cast<std::size_t>(number - 1)] = ToText(rows->Field("cItemName"));
         rows->Close();
@@ -87,8 +90,8 @@ void GetInvDefineNames(std::array<std::string, 16>& arrNames)
 void InitLedgerObjects()
 {
     ModPubState& state = ModPub();
-    const std::string connectionText = state.gobjLogin->ConnectionText();
-    const std::string password = state.gobjLogin->Password();
+    const std::string connectionText = Existing(state.gobjLogin).ConnectionText();
+    const std::string password = Existing(state.gobjLogin).Password();
     if (!state.gobjLedgerLogin)
         state.gobjLedgerLogin = CurrentPlatform().CreateLedgerLogin();
     state.gobjLedgerLogin->Initialise(connectionText, ";PWD=" + password, false, false);
@@ -96,6 +99,15 @@ void InitLedgerObjects()
         state.gobjLedgerPub = CurrentPlatform().CreateLedgerPub();
     state.gobjLedgerPub->SetLogin(state.gobjLedgerLogin);
     state.gobjLedgerPub->Reload("", "");
+}
+
+void InitLedgerParams(const std::string& strYear)
+{
+    InitLedgerObjects();
+    ModPubState& state = ModPub();
+    if (!state.gobjLedgerParams)
+        state.gobjLedgerParams = CurrentPlatform().CreateLedgerParams();
+    state.gobjLedgerPub->GetAccountYearParams(*state.gobjLedgerLogin, strYear, *state.gobjLedgerParams);
 }
 
 }  // namespace kavelin

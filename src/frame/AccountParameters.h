@@ -33,4 +33,7 @@ void GetInvDefineNames(std::array<std::string, 16>& arrNames);
 // Prepares gobjLedgerLogin and gobjLedgerPub: they are made once and take up the latest login at every call.
 void InitLedgerObjects();
 
+// The same, and gobjLedgerParams, made if there is none, with the options of the accounting year.
+void InitLedgerParams(const std::string& strYear);
+
 }  // namespace kavelin

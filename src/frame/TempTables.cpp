@@ -1,6 +1,7 @@
 #include "frame/TempTables.h"
 
 #include "frame/Errors.h"
+#include "frame/Guards.h"
 #include "frame/ModPub.h"
 
 #include <limits>
@@ -26,6 +27,24 @@ std::string BracedGuid(const Guid& guid)
 std::string SelectOne(const std::string& table, const std::string& field, const std::string& value)
 {
     return "Select top 1 " + field + " from " + table + " where " + field + "= N'" + value + "'";
+}
+
+// "TEMPDB..[a]" and "a" are the same table.
+std::string BareName(const std::string& table)
+{
+    constexpr std::string_view kDatabase = "TEMPDB..";
+    std::string name = table;
+    if (ToUpper(Left(name, kDatabase.size())) == kDatabase)
+        name = name.substr(kDatabase.size());
+    if (name.starts_with("[") && name.ends_with("]"))
+        name = name.substr(1, name.size() - 2);
+    return name;
+}
+
+std::string DropIfInTempdb(const std::string& name)
+{
+    return "if exists(Select id from tempdb..sysobjects where id= object_id(N'tempdb.." + name +
+           "')) Drop Table tempdb..[" + name + "]";
 }
 
 }  // namespace
@@ -68,11 +87,21 @@ void DropTableQuiet(Connection& connection, const std::string& strTable)
     }
 }
 
+void DropTempdbTable(const std::string& strTable)
+{
+    ShowErrors([&] {
+        const std::string name = BareName(strTable);
+        if (name.empty())
+            throw Error(Resources().GetResString("Orvo.IA.CHHSSQL.07860"));
+        Existing(ModPub().gcnnAccount).Execute(DropIfInTempdb(name));
+    });
+}
+
 bool RecordExists(const std::string& strTable, const std::string& strField, const std::string& strValue)
 {
-    const auto rows =
-        ModPub().gcnnAccount->OpenRecordset(SelectOne(strTable, strField, strValue), CursorLocation::Client,
-                                            CursorType::ForwardOnly, LockType::ReadOnly);
+    const auto rows = Existing(ModPub().gcnnAccount)
+                          .OpenRecordset(SelectOne(strTable, strField, strValue), CursorLocation::Client,
+                                         CursorType::ForwardOnly, LockType::ReadOnly);
     return !rows->Eof();
 }
 

@@ -26,6 +26,10 @@ std::string InTempdb(const std::string& strTable);
 // Drops a table. Every error is swallowed, that of a missing table among them.
 void DropTableQuiet(Connection& connection, const std::string& strTable);
 
+// Drops a table of tempdb on gcnnAccount, if it is there. `strTable` may begin with "tempdb.." and stand in
+// brackets. Errors, that of an empty name among them, are shown to the user.
+void DropTempdbTable(const std::string& strTable);
+
 // Whether gcnnAccount has a row in `strTable` whose `strField` is `strValue`. The texts are pasted into the
 // statement as they are.
 bool RecordExists(const std::string& strTable, const std::string& strField, const std::string& strValue);

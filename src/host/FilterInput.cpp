@@ -2,6 +2,7 @@
 
 #include "frame/Decimal.h"
 #include "frame/Text.h"
+#include "host/FieldValues.h"
 #include "host/HostErrors.h"
 
 #include <fmt/format.h>
@@ -30,23 +31,30 @@ std::string TextOf(const FilterField& field, const json& value)
                                  WhatItTakes(field)));
 }
 
-// Numbers by value, dates by day; texts are left to the server's collation.
-bool IsReversed(const FilterField& field, const std::string& from, const std::string& to)
+// Numbers and months by value, dates by day; texts are left to the server's collation.
+bool IsReversed(FieldKind kind, const std::string& from, const std::string& to)
 {
     if (from.empty() || to.empty())
         return false;
-    if (field.kind == FieldKind::Number)
-        return *Decimal::FromText(from) > *Decimal::FromText(to);
-    return field.kind == FieldKind::Date && from > to;
+    switch (kind) {
+        case FieldKind::Number:
+        case FieldKind::Month:
+            return *Decimal::FromText(ReplaceAll(from, kMonthSign, "")) >
+                   *Decimal::FromText(ReplaceAll(to, kMonthSign, ""));
+        case FieldKind::Date:
+        case FieldKind::Year:
+        case FieldKind::Period: return from > to;
+        default: return false;
+    }
 }
 
 }  // namespace
 
 FilterInput::FilterInput(const FilterTemplate& filter, ValuePolicy policy)
-    : objTemplate(&filter), enmPolicy(policy), lstGiven(filter.fields.size(), false)
+    : objTemplate(&filter), enmPolicy(policy)
 {
     for (const FilterField& field : filter.fields) {
-        lstFields.push_back({&field, {}, {}, {}});
+        lstFields.push_back({&field, false, {}, {}, {}});
         if (!field.byDefault.empty())
             Take(lstFields.size() - 1, field.byDefault);
     }
@@ -130,9 +138,8 @@ std::size_t FilterInput::Find(std::string_view key) const
 void FilterInput::Begin(std::size_t position)
 {
     FieldInput& input = lstFields[position];
-    if (!lstGiven[position] || !input.field->multiple)
-        input = {input.field, {}, {}, {}};
-    lstGiven[position] = true;
+    if (!input.given || !input.field->multiple)
+        input = {input.field, true, {}, {}, {}};
 }
 
 void FilterInput::Take(std::size_t position, std::string_view value)
@@ -164,7 +171,9 @@ void FilterInput::TakeRange(std::size_t position, std::string_view from, std::st
     const FilterField& field = *input.field;
     input.from = CheckedValue(field, from, enmPolicy);
     input.to = from == to ? input.from : CheckedValue(field, to, enmPolicy);
-    if (IsReversed(field, input.from, input.to))
+    if (field.bothEnds && input.from.empty() != input.to.empty())
+        throw UsageError(fmt::format("{}: it takes both ends, {}.", field.key, WhatItTakes(field)));
+    if (IsReversed(field.kind, input.from, input.to))
         throw UsageError(fmt::format("{}: the range begins with {} and ends before it, with {}.", field.key,
                                      input.from, input.to));
 }

@@ -14,6 +14,7 @@ namespace kavelin::host {
 // any other field holds its value in `values`, a multiple selection all of them, in the order given.
 struct FieldInput {
     const FilterField* field = nullptr;
+    bool given = false;  // by the user, if only to take the default away
     std::vector<std::string> values;
     std::string from;
     std::string to;
@@ -40,7 +41,11 @@ class FilterInput {
     // fields before the faulty one are then set.
     void SetFromJson(std::string_view json, std::string_view source);
 
+    // Throws UsageError, with the nearest key if there is one, for a key that no field has.
+    void RequireKey(std::string_view key) const { Find(key); }
+
     const FilterTemplate& Template() const { return *objTemplate; }
+    ValuePolicy Policy() const { return enmPolicy; }
 
     // One entry a field, in the template's order; a field without a value has empty texts.
     const std::vector<FieldInput>& Fields() const { return lstFields; }
@@ -54,7 +59,6 @@ class FilterInput {
     const FilterTemplate* objTemplate;
     ValuePolicy enmPolicy;
     std::vector<FieldInput> lstFields;
-    std::vector<bool> lstGiven;  // by the user, not by default
 };
 
 }  // namespace kavelin::host

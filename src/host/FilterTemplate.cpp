@@ -3,11 +3,12 @@
 #include "frame/Errors.h"
 #include "frame/Text.h"
 #include "host/DataFiles.h"
+#include "host/TemplateReader.h"
 
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
-#include <array>
+#include <charconv>
 #include <map>
 #include <mutex>
 #include <utility>
@@ -31,6 +32,9 @@ constexpr KindRow kKinds[] = {
     {FieldKind::List, "list", "one of"},
     {FieldKind::Reference, "reference", "a code"},
     {FieldKind::Flag, "flag", "是 or 否, also yes or no"},
+    {FieldKind::Year, "year", "an accounting year, YYYY"},
+    {FieldKind::Month, "month", "a month, 1 to 12"},
+    {FieldKind::Period, "period", "a month of a year, YYYY.MM"},
 };
 
 const KindRow& RowOf(FieldKind kind)
@@ -38,90 +42,137 @@ const KindRow& RowOf(FieldKind kind)
     return *std::ranges::find(kKinds, kind, &KindRow::kind);
 }
 
-// Reads one field; `where` begins its messages.
-class FieldReader {
-  public:
-    FieldReader(const json& field, std::string where) : objField(field), strWhere(std::move(where)) {}
+FieldKind ReadKind(const ObjectReader& reader)
+{
+    const auto* row = std::ranges::find(kKinds, reader.Text("kind"), &KindRow::name);
+    if (row == std::end(kKinds))
+        reader.Fail("has the unknown kind \"" + reader.Text("kind") + "\"");
+    return row->kind;
+}
 
-    FilterField Read()
-    {
-        if (!objField.is_object())
-            Fail("is no object");
-        RefuseUnknownMembers();
-        FilterField field;
-        field.key = Text("key");
-        if (field.key.empty())
-            Fail("has no key");
-        strWhere += " " + field.key;
-        field.caption = Caption(objField);
-        field.kind = Choice<FieldKind>("kind", [&](std::string_view name) {
-            const auto* row = std::ranges::find(kKinds, name, &KindRow::name);
-            return row == std::end(kKinds) ? std::optional<FieldKind>() : row->kind;
-        });
-        field.range = Flag("range");
-        field.multiple = Flag("multiple");
-        field.argument = Flag("argument");
-        field.whole = Flag("whole");
-        field.separator = Choice<char>("separator", [](std::string_view name) {
-            return name.empty() || name == "comma" ? std::optional(',')
-                   : name == "tab"                 ? std::optional('\t')
-                                                   : std::nullopt;
-        });
-        field.match = Choice<FieldMatch>("match", [](std::string_view name) {
-            return name.empty() || name == "equal" ? std::optional(FieldMatch::Equal)
-                   : name == "prefix"              ? std::optional(FieldMatch::Prefix)
-                                                   : std::nullopt;
-        });
-        field.column = Text("column");
-        field.byDefault = Text("default");
-        field.example = Text("example");
-        if (objField.contains("minimum"))
-            field.minimum = objField.at("minimum").get<long>();
-        if (objField.contains("entries"))
-            for (const json& entry : objField.at("entries"))
-                field.entries.push_back({entry.at("value").get<std::string>(), Caption(entry)});
-        if ((field.kind == FieldKind::List) == field.entries.empty())
-            Fail("has entries if and only if it is a list");
-        if (field.range && field.multiple)
-            Fail("is either a range or a multiple selection");
-        return field;
+void RefuseWhatDoesNotGoTogether(const FilterField& field, const ObjectReader& reader)
+{
+    if (!field.entries.empty() && field.kind != FieldKind::List)
+        reader.Fail("has entries and is no list");
+    if (!field.lookup.from.empty() && field.kind != FieldKind::Reference)
+        reader.Fail("has a lookup and is no reference");
+    if (field.range && field.multiple)
+        reader.Fail("is either a range or a multiple selection");
+    if (field.bothEnds && !field.range)
+        reader.Fail("has both ends only as a range");
+    if (!field.dates.empty() && (field.kind != FieldKind::Period || !field.range || field.dates.size() != 2))
+        reader.Fail("has two fields of dates only as a range of periods");
+}
+
+FilterField ReadField(const json& object, const std::string& where, const Lookups& lookups)
+{
+    ObjectReader reader(object, where);
+    reader.RefuseMembersBut({"key",      "controlKey",  "caption",   "kind",     "range",   "bothEnds",
+                             "multiple", "separator",   "mandatory", "argument", "whole",   "minimum",
+                             "column",   "match",       "default",   "example",  "entries", "enum",
+                             "lookup",   "lookupWhere", "dates",     "numbers"});
+    FilterField field;
+    field.key = reader.Text("key");
+    if (field.key.empty())
+        reader.Fail("has no key");
+    reader.Name(field.key);
+    field.controlKey = reader.Has("controlKey") ? reader.Text("controlKey") : field.key;
+    field.caption = reader.Caption();
+    field.kind = ReadKind(reader);
+    field.range = reader.Flag("range");
+    field.bothEnds = reader.Flag("bothEnds");
+    field.multiple = reader.Flag("multiple");
+    field.mandatory = reader.Flag("mandatory");
+    field.argument = reader.Flag("argument");
+    field.whole = reader.Flag("whole");
+    field.separator = reader.Choice<char>("separator", {{"comma", ','}, {"tab", '\t'}});
+    field.match =
+        reader.Choice<FieldMatch>("match", {{"equal", FieldMatch::Equal}, {"prefix", FieldMatch::Prefix}});
+    field.column = reader.Text("column");
+    field.enumType = reader.Text("enum");
+    field.byDefault = reader.Text("default");
+    field.example = reader.Text("example");
+    if (reader.Has("minimum"))
+        field.minimum = reader.Member("minimum").get<long>();
+    if (reader.Has("entries"))
+        for (const json& entry : reader.Member("entries"))
+            field.entries.push_back({entry.at("value").get<std::string>(),
+                                     ObjectReader(entry, reader.Where() + ": an entry").Caption()});
+    if (reader.Has("lookup")) {
+        const auto lookup = lookups.find(reader.Text("lookup"));
+        if (lookup == lookups.end())
+            reader.Fail("has the unknown lookup \"" + reader.Text("lookup") + "\"");
+        field.lookup = lookup->second;
+        if (reader.Has("lookupWhere"))
+            field.lookup.where = reader.Text("lookupWhere");
     }
+    if (reader.Has("dates"))
+        field.dates = reader.Member("dates").get<std::vector<std::string>>();
+    RefuseWhatDoesNotGoTogether(field, reader);
+    return field;
+}
 
-  private:
-    [[noreturn]] void Fail(const std::string& what) const { throw Error(strWhere + " " + what + "."); }
+// A number of a family, with a sign or without.
+int NumberIn(std::string_view text)
+{
+    const std::string_view digits = text.starts_with("+") ? text.substr(1) : text;
+    int number = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    if (error != std::errc() || end != digits.data() + digits.size())
+        throw Error("\"" + std::string(text) + "\" is no number of a family of fields.");
+    return number;
+}
 
-    void RefuseUnknownMembers() const
-    {
-        static constexpr std::array<std::string_view, 14> known = {
-            "key",     "caption",   "kind",  "range",  "multiple", "argument", "whole",
-            "minimum", "separator", "match", "column", "default",  "example",  "entries"};
-        for (const auto& [name, value] : objField.items())
-            if (std::ranges::find(known, name) == known.end())
-                Fail("has the unknown member \"" + name + "\"");
+// "1-3,8" as 1, 2, 3, 8.
+std::vector<int> NumbersOf(const std::string& text)
+{
+    std::vector<int> numbers;
+    for (const std::string& part : Split(text, ",")) {
+        const std::vector<std::string> ends = Split(part, "-");
+        for (int number = NumberIn(ends.front()); number <= NumberIn(ends.back()); ++number)
+            numbers.push_back(number);
     }
+    return numbers;
+}
 
-    std::string Text(const char* name) const { return objField.value(name, std::string()); }
-    bool Flag(const char* name) const { return objField.value(name, false); }
-
-    static LocalText Caption(const json& object)
-    {
-        const json& caption = object.at("caption");
-        return {caption.at(std::string(kChinese)).get<std::string>(),
-                caption.at(std::string(kEnglish)).get<std::string>()};
+// The text with `number` for "{}", and with the sum for "{+19}".
+std::string Numbered(const std::string& text, int number)
+{
+    std::string result;
+    std::size_t from = 0;
+    for (std::size_t open; (open = text.find('{', from)) != text.npos;) {
+        const std::size_t close = text.find('}', open);
+        if (close == text.npos)
+            break;
+        const std::string addend = text.substr(open + 1, close - open - 1);
+        result +=
+            text.substr(from, open - from) + std::to_string(number + (addend.empty() ? 0 : NumberIn(addend)));
+        from = close + 1;
     }
+    return result + text.substr(from);
+}
 
-    template <class T, class Read>
-    T Choice(const char* name, Read read) const
-    {
-        const auto choice = read(Text(name));
-        if (!choice)
-            Fail("has the unknown " + std::string(name) + " \"" + Text(name) + "\"");
-        return *choice;
-    }
+json Numbered(const json& value, int number)
+{
+    if (value.is_string())
+        return Numbered(value.get<std::string>(), number);
+    json result = value;
+    if (value.is_structured())
+        for (auto& [name, member] : result.items())
+            member = Numbered(member, number);
+    return result;
+}
 
-    const json& objField;
-    std::string strWhere;
-};
+// A family of fields one by one; any other field alone.
+std::vector<json> MembersOf(const json& entry)
+{
+    if (!entry.is_object() || !entry.contains("numbers"))
+        return {entry};
+    std::vector<json> members;
+    for (const int number : NumbersOf(entry.at("numbers").get<std::string>()))
+        members.push_back(Numbered(entry, number));
+    return members;
+}
 
 }  // namespace
 
@@ -140,32 +191,36 @@ std::string_view KindName(FieldKind kind)
 std::string WhatItTakes(const FilterField& field)
 {
     std::string text(RowOf(field.kind).takes);
-    if (field.kind == FieldKind::List)
-        for (std::size_t i = 0; i < field.entries.size(); ++i)
-            text += (i == 0 ? " " : ", ") + field.entries[i].value;
+    if (field.kind == FieldKind::List && field.entries.empty())
+        text += " those that the dialog offers";
+    for (std::size_t i = 0; i < field.entries.size(); ++i)
+        text += (i == 0 ? " " : ", ") + field.entries[i].value;
     if (field.whole)
         text = "a whole number";
     if (field.minimum)
         text += " from " + std::to_string(*field.minimum);
     if (field.range)
-        text += ", or a range FROM..TO of which either end may be missing";
+        text += field.bothEnds ? ", or a range FROM..TO"
+                               : ", or a range FROM..TO of which either end may be missing";
     if (field.multiple)
         text += ", several times if wanted";
     return text;
 }
 
-FilterTemplate ParseFilterTemplate(std::string_view report, std::string_view text)
+FilterTemplate ParseFilterTemplate(std::string_view report, std::string_view text, const Lookups& lookups)
 {
     const std::string name = "The filter template of " + std::string(report);
     FilterTemplate filter{std::string(report), {}};
     try {
         const json document = json::parse(text);
         for (const json& entry : document.at("fields")) {
-            const std::string where = name + ": field " + std::to_string(filter.fields.size() + 1);
-            FilterField field = FieldReader(entry, where).Read();
-            if (filter.Find(field.key))
-                throw Error(where + " has the key " + field.key + ", which another field has.");
-            filter.fields.push_back(std::move(field));
+            for (const json& member : MembersOf(entry)) {
+                const std::string where = name + ": field " + std::to_string(filter.fields.size() + 1);
+                FilterField field = ReadField(member, where, lookups);
+                if (filter.Find(field.key))
+                    throw Error(where + " has the key " + field.key + ", which another field has.");
+                filter.fields.push_back(std::move(field));
+            }
         }
     } catch (const json::exception& e) {
         throw Error(name + " cannot be read at field " + std::to_string(filter.fields.size() + 1) + ": " +
@@ -183,7 +238,7 @@ const FilterTemplate& TemplateOf(std::string_view report)
     auto found = templates.find(report);
     if (found == templates.end()) {
         const std::string file = "filters/" + std::string(report) + ".json";
-        found = templates.emplace(report, ParseFilterTemplate(report, DataFile(file))).first;
+        found = templates.emplace(report, ParseFilterTemplate(report, DataFile(file), AllLookups())).first;
     }
     return found->second;
 }

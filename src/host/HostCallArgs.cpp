@@ -39,10 +39,11 @@ Variant HostDataSource::Call(std::string_view member, const std::vector<Variant>
 }
 
 HostCallArgs::HostCallArgs(std::string table, std::shared_ptr<ReportFilterObject> filter,
-                           std::string language)
+                           std::string language, HostObjectPtr manager)
     : objDataSource(std::make_shared<HostDataSource>(std::move(table))),
       objFilter(std::move(filter)),
-      strLanguage(std::move(language))
+      strLanguage(std::move(language)),
+      objManager(std::move(manager))
 {
 }
 
@@ -59,7 +60,7 @@ Variant HostCallArgs::Get(std::string_view member)
     if (EqualsNoCase(member, "LangID"))
         return Value(LangID());
     if (EqualsNoCase(member, "ObjreportManager"))
-        return HostObjectPtr();
+        return objManager;
     ThrowNoMember("call", member);
 }
 

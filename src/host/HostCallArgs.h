@@ -27,8 +27,9 @@ class HostDataSource : public DataSource, public LateBound {
 
 class HostCallArgs : public ReportCallArgs {
   public:
-    // The arguments of the call are those that travel with the filter.
-    HostCallArgs(std::string table, std::shared_ptr<ReportFilterObject> filter, std::string language);
+    // The arguments of the call are those that travel with the filter. `manager` may be null.
+    HostCallArgs(std::string table, std::shared_ptr<ReportFilterObject> filter, std::string language,
+                 HostObjectPtr manager = nullptr);
 
     std::shared_ptr<kavelin::DataSource> DataSource() override { return objDataSource; }
     std::shared_ptr<LoginContext> Login() override { return objFilter->Login(); }
@@ -36,7 +37,7 @@ class HostCallArgs : public ReportCallArgs {
     std::shared_ptr<NamedValues> Args() override { return objFilter->ContextArgs(); }
     std::string LangID() override { return strLanguage; }
 
-    // The members above, and `ObjreportManager`, which this host doesn't have: no object.
+    // The members above, and `ObjreportManager`.
     Variant Get(std::string_view member) override;
     void Put(std::string_view member, const Variant& value) override;
     Variant Call(std::string_view member, const std::vector<Variant>& arguments) override;
@@ -45,6 +46,7 @@ class HostCallArgs : public ReportCallArgs {
     std::shared_ptr<kavelin::DataSource> objDataSource;
     std::shared_ptr<ReportFilterObject> objFilter;
     std::string strLanguage;
+    HostObjectPtr objManager;
 };
 
 }  // namespace kavelin::host

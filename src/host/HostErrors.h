@@ -6,8 +6,13 @@
 namespace kavelin::host {
 
 // The user asked for something that cannot be done as asked: an unknown report or field, a value that is
-// refused, a setting that makes no sense. Nothing has been sent to a database.
+// refused, a setting that makes no sense. Nothing in a database has been changed.
 class UsageError : public Error {
+    using Error::Error;
+};
+
+// The check of a report's dialog refused its values. The user has seen why.
+class FilterRefused : public Error {
     using Error::Error;
 };
 

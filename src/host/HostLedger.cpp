@@ -17,6 +17,12 @@ std::unique_ptr<Recordset> Read(Connection& connection, const std::string& sql)
     return connection.OpenRecordset(sql, CursorLocation::Client, CursorType::Static, LockType::ReadOnly);
 }
 
+std::string FromPeriods(const std::string& accountId)
+{
+    return " from VosSystem..UA_Period where cAcc_ID = N'" + ReplaceAll(accountId, "'", "''") +
+           "' and iYear <> 9999 and isnull(bIsDelete, 0) = 0";
+}
+
 bool IsDigits(std::string_view text)
 {
     return !text.empty() && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
@@ -41,8 +47,7 @@ std::shared_ptr<Connection> HostLedgerLogin::DbConnection()
 
 std::string HostLedgerPub::Periods() const
 {
-    return " from VosSystem..UA_Period where cAcc_ID = N'" + ReplaceAll(strAccountId, "'", "''") +
-           "' and iYear <> 9999 and isnull(bIsDelete, 0) = 0";
+    return FromPeriods(strAccountId);
 }
 
 std::pair<int, int> HostLedgerPub::GetYearMonthRange(const std::string& year, Connection& account)
@@ -56,7 +61,7 @@ std::pair<int, int> HostLedgerPub::GetYearMonthRange(const std::string& year, Co
     return {ToInt32(rows->Field(0)), ToInt32(rows->Field(1))};
 }
 
-std::vector<std::string> HostLedgerPub::GetAccountYears(Connection& account)
+std::vector<std::string> HostLedgerPub::GetAccountYears(const std::string&, Connection& account)
 {
     std::vector<std::string> years;
     for (const auto rows = Read(account, "select distinct iYear" + Periods() + " order by iYear");
@@ -65,7 +70,13 @@ std::vector<std::string> HostLedgerPub::GetAccountYears(Connection& account)
     return years;
 }
 
-void HostLedgerPub::GetAccountYearParams(LedgerLogin& login, const std::string&, LedgerParams& params)
+void HostLedgerParams::Set(std::string year, std::string valueStyle)
+{
+    strYear = std::move(year);
+    strValueStyle = std::move(valueStyle);
+}
+
+void HostLedgerPub::GetAccountYearParams(LedgerLogin& login, const std::string& year, LedgerParams& params)
 {
     const auto rows =
         Read(*login.DbConnection(),
@@ -75,7 +86,21 @@ void HostLedgerPub::GetAccountYearParams(LedgerLogin& login, const std::string&,
         for (const int field : {0, 1})
             if (const Value value = rows->Field(field); style.empty() && !value.IsNull())
                 style = ToText(value);
-    dynamic_cast<HostLedgerParams&>(params).SetValueStyle(style);
+    dynamic_cast<HostLedgerParams&>(params).Set(year, style);
+}
+
+PeriodDays DaysOfPeriods(Connection& account, const std::string& accountId, const std::string& from,
+                         const std::string& to)
+{
+    const auto limit = [](const std::string& comparison, const std::string& period) {
+        return period.empty() ? ""
+                              : " and iYear * 100 + iID " + comparison + " " + ReplaceAll(period, ".", "");
+    };
+    const auto rows = Read(account, "select min(dBegin), max(dEnd)" + FromPeriods(accountId) +
+                                        limit(">=", from) + limit("<=", to));
+    if (rows->Eof() || rows->Field(0).IsNull() || rows->Field(1).IsNull())
+        throw Error("The account has no accounting months " + from + ".." + to + ".");
+    return {FormatDate(ToDate(rows->Field(0))), FormatDate(ToDate(rows->Field(1)))};
 }
 
 }  // namespace kavelin::host

@@ -31,10 +31,14 @@ class HostLedgerLogin : public LedgerLogin {
 
 class HostLedgerParams : public LedgerParams {
   public:
+    std::string Year() override { return strYear; }
     std::string ValueStyle() override { return strValueStyle; }
-    void SetValueStyle(std::string style) { strValueStyle = std::move(style); }
+    std::string InventoryQualifier() override { return {}; }  // the table lies in the account itself
+
+    void Set(std::string year, std::string valueStyle);
 
   private:
+    std::string strYear;
     std::string strValueStyle;
 };
 
@@ -48,8 +52,8 @@ class HostLedgerPub : public LedgerPub {
     // Throws Error for a year that is no number or that the account doesn't have.
     std::pair<int, int> GetYearMonthRange(const std::string& year, Connection& account) override;
 
-    // Ascending, without the sentinel year 9999.
-    std::vector<std::string> GetAccountYears(Connection& account) override;
+    // All of them, whatever the login's year: ascending, without the sentinel year 9999.
+    std::vector<std::string> GetAccountYears(const std::string& year, Connection& account) override;
 
     // The account keeps its options for all years alike. `login` and `params` must be this host's.
     void GetAccountYearParams(LedgerLogin& login, const std::string& year, LedgerParams& params) override;
@@ -59,5 +63,16 @@ class HostLedgerPub : public LedgerPub {
 
     std::string strAccountId;
 };
+
+// First and last day of something, as YYYY-MM-DD.
+struct PeriodDays {
+    std::string first;
+    std::string last;
+};
+
+// The days of the account's fiscal months from one to the other, each "2008.07"; an empty end is open. Throws
+// Error if the account has no month among them.
+PeriodDays DaysOfPeriods(Connection& account, const std::string& accountId, const std::string& from,
+                         const std::string& to);
 
 }  // namespace kavelin::host

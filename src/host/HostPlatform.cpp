@@ -1,11 +1,17 @@
 #include "host/HostPlatform.h"
 
 #include "frame/Errors.h"
+#include "frame/Guards.h"
+#include "frame/ModPub.h"
 #include "host/HostLedger.h"
 #include "host/HostMachine.h"
 #include "host/HostResources.h"
 #include "host/HostSettingsStore.h"
 #include "host/HostXml.h"
+
+#include <unistd.h>
+
+#include <cstdio>
 
 namespace kavelin::host {
 
@@ -59,14 +65,29 @@ std::shared_ptr<XmlDocument> HostPlatform::CreateXmlDocument()
     return CreateXml();
 }
 
+std::shared_ptr<FormHost> HostPlatform::CreateFormHost()
+{
+    return std::make_shared<HostForms>(objSettings.onForm, CreateResourceObject());
+}
+
 Guid HostPlatform::CreateGuid()
 {
     return RandomGuid();
 }
 
+void HostPlatform::Beep()
+{
+    if (::isatty(STDERR_FILENO))
+        std::fputc('\a', stderr);
+}
+
 std::shared_ptr<LateBound> HostPlatform::CreateObject(const std::string& name)
 {
-    auto object = CreateSuiteObject(name, {objSettings.onShow, objSettings.onMessage, objSettings.language});
+    const auto openAccount = [connections = objSettings.connections] {
+        return connections.Open("portal", Existing(ModPub().gobjLogin).VosDbName(), "");
+    };
+    auto object = CreateSuiteObject(
+        name, {objSettings.onShow, objSettings.onMessage, objSettings.language, openAccount});
     if (!object)
         throw Error("This host has no object " + name + ".");
     return object;

@@ -3,6 +3,7 @@
 
 #include "frame/host/Platform.h"
 #include "host/HostConnection.h"
+#include "host/HostForms.h"
 #include "host/HostLogin.h"
 #include "host/ShownMessage.h"
 #include "host/SuiteViewers.h"
@@ -22,6 +23,7 @@ struct PlatformSettings {
     std::map<std::string, UserRights> users;
     std::filesystem::path settingsFile;  // of the settings store
     ViewerSink onShow = {};              // takes what the suite's viewers are asked to open; may be empty
+    FormSink onForm = {};                // lets the user fill in a form; may be empty: nobody does
 };
 
 class HostPlatform : public Platform {
@@ -38,7 +40,9 @@ class HostPlatform : public Platform {
     std::shared_ptr<ClientNumber> CreateClientNumber() override;
     std::shared_ptr<SettingsStore> CreateSettingsStore() override;
     std::shared_ptr<XmlDocument> CreateXmlDocument() override;
+    std::shared_ptr<FormHost> CreateFormHost() override;
     Guid CreateGuid() override;
+    void Beep() override;  // the terminal's bell, if messages go to a terminal
 
     // Those of CreateSuiteObject. Throws Error for any other name.
     std::shared_ptr<LateBound> CreateObject(const std::string& name) override;

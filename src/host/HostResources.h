@@ -21,6 +21,7 @@ class HostResources : public ResourceObject {
     std::string GetEnumName(const std::string& type, const std::string& code) override;
     std::string GetEnumCode(const std::string& type, const std::string& text) override;
     void ShowMessage(const std::string& text, int icon) override;
+    void Unload() override {}  // texts are kept for the whole program
 
   private:
     std::string strLanguage;

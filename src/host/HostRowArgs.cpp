@@ -14,6 +14,30 @@ namespace {
     throw Error("The " + std::string(object) + " has no member " + std::string(member) + ".");
 }
 
+// What a report finds as FltArgs.
+class ReportArguments : public LateBound {
+  public:
+    explicit ReportArguments(HostObjectPtr manager) : objManager(std::move(manager)) {}
+
+    Variant Get(std::string_view member) override
+    {
+        if (!EqualsNoCase(member, "ObjreportManager"))
+            ThrowNoMember("report's arguments", member);
+        return objManager;
+    }
+    void Put(std::string_view member, const Variant&) override
+    {
+        ThrowNoMember("report's arguments", member);
+    }
+    Variant Call(std::string_view member, const std::vector<Variant>&) override
+    {
+        ThrowNoMember("report's arguments", member);
+    }
+
+  private:
+    HostObjectPtr objManager;
+};
+
 }  // namespace
 
 HostRow::HostRow(const Recordset& rows)
@@ -50,8 +74,11 @@ Variant HostRow::Call(std::string_view member, const std::vector<Variant>& argum
 }
 
 HostRowArgs::HostRowArgs(std::shared_ptr<LoginContext> login, std::string action,
-                         std::shared_ptr<HostRow> row)
-    : objLogin(std::move(login)), strAction(std::move(action)), objRow(std::move(row))
+                         std::shared_ptr<HostRow> row, HostObjectPtr manager)
+    : objLogin(std::move(login)),
+      strAction(std::move(action)),
+      objRow(std::move(row)),
+      objManager(std::move(manager))
 {
 }
 
@@ -63,6 +90,8 @@ Variant HostRowArgs::Get(std::string_view member)
         return Value(strAction);
     if (EqualsNoCase(member, "RelateData"))
         return HostObjectPtr(std::static_pointer_cast<LateBound>(objRow));
+    if (EqualsNoCase(member, "FltArgs"))
+        return HostObjectPtr(std::make_shared<ReportArguments>(objManager));
     ThrowNoMember("call", member);
 }
 

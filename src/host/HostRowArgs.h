@@ -28,12 +28,15 @@ class HostRow : public RelateData, public LateBound {
 
 class HostRowArgs : public DrillDownArgs {
   public:
-    HostRowArgs(std::shared_ptr<LoginContext> login, std::string action, std::shared_ptr<HostRow> row);
+    // `row` is null for a command on the whole report; `manager` is null where no report is shown.
+    HostRowArgs(std::shared_ptr<LoginContext> login, std::string action, std::shared_ptr<HostRow> row,
+                HostObjectPtr manager = nullptr);
 
     std::shared_ptr<LoginContext> Login() override { return objLogin; }
     std::string Action() override { return strAction; }
     std::shared_ptr<kavelin::RelateData> RelateData() override { return objRow; }
 
+    // The members above, and `FltArgs` with `ObjreportManager`.
     Variant Get(std::string_view member) override;
     void Put(std::string_view member, const Variant& value) override;
     Variant Call(std::string_view member, const std::vector<Variant>& arguments) override;
@@ -42,6 +45,7 @@ class HostRowArgs : public DrillDownArgs {
     std::shared_ptr<LoginContext> objLogin;
     std::string strAction;
     std::shared_ptr<HostRow> objRow;
+    HostObjectPtr objManager;
 };
 
 }  // namespace kavelin::host

@@ -3,6 +3,7 @@
 #include <pugixml.hpp>
 
 #include <iterator>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -27,6 +28,13 @@ std::string TextOf(const pugi::xml_node& node)
     return text;
 }
 
+std::string Trimmed(const std::string& text)
+{
+    constexpr const char* kSpace = " \t\r\n";
+    const std::size_t first = text.find_first_not_of(kSpace);
+    return first == text.npos ? "" : text.substr(first, text.find_last_not_of(kSpace) - first + 1);
+}
+
 class HostXmlNode : public XmlNode {
   public:
     HostXmlNode(DocumentPtr document, pugi::xml_node node) : objDocument(std::move(document)), objNode(node)
@@ -34,7 +42,7 @@ class HostXmlNode : public XmlNode {
     }
 
     std::string nodeName() override { return IsText(objNode) ? "#text" : objNode.name(); }
-    std::string text() override { return TextOf(objNode); }
+    std::string text() override { return Trimmed(TextOf(objNode)); }
 
     Value getAttribute(const std::string& name) override
     {

@@ -2,48 +2,21 @@
 
 #include "component/Component.h"
 #include "frame/Errors.h"
-#include "frame/ModPub.h"
+#include "frame/Text.h"
 #include "frame/Value.h"
-#include "host/HostCallArgs.h"
+#include "host/Dialog.h"
+#include "host/FieldValues.h"
 #include "host/HostErrors.h"
-#include "host/HostFilter.h"
 #include "host/HostMachine.h"
 #include "host/HostRowArgs.h"
+#include "host/LocalText.h"
 
-#include <chrono>
+#include <exception>
 #include <utility>
 
 namespace kavelin::host {
 
 namespace {
-
-AccountingPeriod Today()
-{
-    const auto day = std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now());
-    const std::chrono::year_month_day date(day);
-    return {static_cast<int>(date.year()), static_cast<int>(static_cast<unsigned>(date.month()))};
-}
-
-AccountingPeriod PeriodOf(const AccountLogin& login, Connection& connection)
-{
-    if (login.year != 0 && login.month != 0)
-        return {login.year, login.month};
-    AccountingPeriod period = LatestPeriod(connection, login.accountId, login.year).value_or(Today());
-    if (login.year != 0)
-        period.year = login.year;
-    if (login.month != 0)
-        period.month = login.month;
-    return period;
-}
-
-// Takes the thread's platform away again, and with it what a report left open.
-class PlatformUse {
-  public:
-    explicit PlatformUse(std::shared_ptr<Platform> platform) { UsePlatform(std::move(platform)); }
-    ~PlatformUse() { UsePlatform(nullptr); }
-    PlatformUse(const PlatformUse&) = delete;
-    PlatformUse& operator=(const PlatformUse&) = delete;
-};
 
 bool TableExists(Connection& connection, const std::string& table)
 {
@@ -53,31 +26,29 @@ bool TableExists(Connection& connection, const std::string& table)
     return !rows->Eof();
 }
 
+// "会计年度 2008  ·  会计月份 6月". Lists and flags tell how to show something, not of what. A report that was told
+// nothing is about the login's year.
+std::string SubjectOf(const HostFilter& filter, LoginContext& login)
+{
+    const std::string language = login.LanguageRegion();
+    std::string subject;
+    for (const auto& item : filter.Items()) {
+        const FilterField& field = item->Field();
+        std::string value = item->Shown();
+        if (value.empty() || field.kind == FieldKind::List || field.kind == FieldKind::Flag)
+            continue;
+        if (language == kEnglish && field.kind == FieldKind::Month)
+            value = ReplaceAll(value, kMonthSign, "");
+        subject += (subject.empty() ? "" : "  ·  ") + field.caption.In(language) + " " + value;
+    }
+    return subject.empty() ? LocalText{"会计年度 ", "Accounting year "}.In(language) + login.Year() : subject;
+}
+
 }  // namespace
 
 ReportRun::ReportRun(AccountLogin login, ConnectionSource connections, MessageSink onMessage)
-    : objConnections(std::move(connections)),
-      cnnHost(OpenLogin(login, objConnections, "host")),
-      objOnMessage(std::move(onMessage))
+    : objSession(std::move(login), std::move(connections), std::move(onMessage))
 {
-    const AccountingPeriod period = PeriodOf(login, *cnnHost);
-    objLogin =
-        std::make_shared<HostLogin>(LoginSettings{login.ConnectionText(), login.accountId, login.user,
-                                                  login.password, login.language, period.year, period.month},
-                                    std::make_shared<HostAuthService>(login.users, login.user));
-
-    const auto show = [this](const ShownMessage& message) {
-        lstMessages.push_back(message);
-        if (objOnMessage)
-            objOnMessage(message);
-    };
-    const auto open = [this](const std::string& title, Recordset& rows) {
-        if (objOnShow)
-            objOnShow(title, rows);
-    };
-    objPlatform = std::make_shared<HostPlatform>(PlatformSettings{objConnections, show, login.accountId,
-                                                                  login.language, std::move(login.users),
-                                                                  std::move(login.settingsFile), open});
 }
 
 ReportRun::~ReportRun()
@@ -93,9 +64,38 @@ void ReportRun::Run(const Report& report, const FilterInput& input)
 void ReportRun::RunAndOpen(const Report& report, const FilterInput& input, std::int64_t row,
                            const std::string& action, ViewerSink onShow)
 {
-    objOnShow = std::move(onShow);
+    objSession.SetViewer(std::move(onShow));
     Run(report, input, [&](LateBound& object) { OpenRow(object, row, action); });
-    objOnShow = nullptr;
+    objSession.SetViewer(nullptr);
+}
+
+void ReportRun::RunAndDrawAgain(const Report& report, const FilterInput& input, const std::string& action)
+{
+    Run(report, input, [&](LateBound& object) { DrawAgain(object, action); });
+}
+
+void ReportRun::DrawAgain(LateBound& report, const std::string& action)
+{
+    // The report passes every error of a command over, those of the drawing among them.
+    bool drawn = false;
+    std::exception_ptr failure;
+    objDraw = [&] {
+        drawn = true;
+        try {
+            // A report may look for its old result in tempdb, where this host has none.
+            Account().Execute("drop table " + strTable);
+            report.Call("GETSQL", {HostObjectPtr(objCall)});
+        } catch (...) {
+            failure = std::current_exception();
+        }
+    };
+    const auto argument = std::make_shared<HostRowArgs>(objSession.Login(), action, nullptr, objManager);
+    report.Call("Execute", {std::static_pointer_cast<LateBound>(argument)});
+    objDraw = nullptr;
+    if (failure)
+        std::rethrow_exception(failure);
+    if (!drawn)
+        throw Error("The command " + action + " doesn't draw the report again.");
 }
 
 void ReportRun::OpenRow(LateBound& report, std::int64_t row, const std::string& action)
@@ -106,30 +106,49 @@ void ReportRun::OpenRow(LateBound& report, std::int64_t row, const std::string& 
                          std::to_string(rows->RecordCount()) + ".");
     for (std::int64_t before = 1; before < row; ++before)
         rows->MoveNext();
-    const auto argument = std::make_shared<HostRowArgs>(objLogin, action, std::make_shared<HostRow>(*rows));
+    const auto argument = std::make_shared<HostRowArgs>(objSession.Login(), action,
+                                                        std::make_shared<HostRow>(*rows), objManager);
     rows->Close();
     report.Call("Execute", {std::static_pointer_cast<LateBound>(argument)});
+}
+
+std::shared_ptr<LateBound> ReportRun::MakeResult(const Report& report,
+                                                 const std::shared_ptr<HostFilter>& filter)
+{
+    if (report.entry == ReportEntry::Template) {
+        const auto object = CreateGoodsTemplate();
+        object->Call("CreateNewTemplate", {HostObjectPtr(filter), Value(strTable)});
+        return object;
+    }
+    const auto object = CreateObject("Kavelin." + std::string(report.className));
+    objCall =
+        std::make_shared<HostCallArgs>(strTable, filter, objSession.Login()->LanguageRegion(), objManager);
+    object->Call("GETSQL", {HostObjectPtr(objCall)});
+    return object;
 }
 
 void ReportRun::Run(const Report& report, const FilterInput& input, const Afterwards& afterwards)
 {
     DropResultQuiet();
-    lstMessages.clear();
+    objSession.ForgetMessages();
+
+    Dialog dialog(objSession, report);
+    dialog.Set(input);
+    dialog.Accept();
+
     objReport = &report;
+    strSubject = SubjectOf(*dialog.Filter(), *objSession.Login());
     strTable = "KavelinResult_" + HexDigits(RandomGuid());
-
-    const auto filter =
-        std::make_shared<HostFilter>(std::string(report.filterId), input.Template(), objLogin);
-    filter->Fill(input);
-    const auto call = std::make_shared<HostCallArgs>(strTable, filter, objLogin->LanguageRegion());
-
-    const PlatformUse use(objPlatform);
-    const auto object = CreateObject("Kavelin." + std::string(report.className));
-    object->Call("GETSQL", {HostObjectPtr(call)});
-    if (!TableExists(*cnnHost, strTable))
-        throw ReportError(lstMessages.empty() ? "The report failed without a message and left no result."
-                                              : "The report failed: " + lstMessages.back().text);
+    objManager = std::make_shared<ReportManager>(report.tableColumns, [this] {
+        if (objDraw)
+            objDraw();
+    });
+    const std::shared_ptr<LateBound> object = MakeResult(report, dialog.Filter());
+    if (!TableExists(Account(), strTable))
+        throw ReportError(Messages().empty() ? "The report failed without a message and left no result."
+                                             : "The report failed: " + Messages().back().text);
     afterwards(*object);
+    objCall.reset();
 }
 
 std::unique_ptr<Recordset> ReportRun::OpenResult()
@@ -138,8 +157,8 @@ std::unique_ptr<Recordset> ReportRun::OpenResult()
         throw Error("No report has run.");
     const std::string order =
         objReport->orderBy.empty() ? "" : " order by " + std::string(objReport->orderBy);
-    return cnnHost->OpenRecordset("select * from " + strTable + order, CursorLocation::Client,
-                                  CursorType::Static, LockType::ReadOnly);
+    return Account().OpenRecordset("select * from " + strTable + order, CursorLocation::Client,
+                                   CursorType::Static, LockType::ReadOnly);
 }
 
 void ReportRun::DropResultQuiet() noexcept
@@ -147,8 +166,8 @@ void ReportRun::DropResultQuiet() noexcept
     if (strTable.empty())
         return;
     try {
-        objConnections.Resume();
-        cnnHost->Execute("drop table " + strTable);
+        objSession.Connections().Resume();
+        Account().Execute("drop table " + strTable);
     } catch (const std::exception&) {
         // The report may have failed before it made the table.
     }

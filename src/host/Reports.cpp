@@ -6,6 +6,7 @@
 #include "host/HostErrors.h"
 #include "host/LocalText.h"
 #include "host/ValueGate.h"
+#include "host/definition/StockView.h"
 
 #include <vector>
 
@@ -13,15 +14,32 @@ namespace kavelin::host {
 
 namespace {
 
-// Whatever is none of a report's other actions opens the accounting voucher; "Voucher" is this host's word
-// for it.
+// Whatever is none of a report's other actions opens the accounting voucher, in the ledger by cost item that
+// of the differences; "Voucher" and there "DifPZ" are this host's words for it.
 constexpr RowAction kJournalActions[] = {
     {"ActWtInfo", "the document"},
+    {"Voucher", "the accounting voucher"},
+};
+constexpr RowAction kPriceActions[] = {
+    {"Vouch", "the document"},
     {"Voucher", "the accounting voucher"},
 };
 constexpr RowAction kStandardCostActions[] = {
     {"Vouch", "the document"},
     {"Voucher", "the accounting voucher"},
+    {"DifPZ", "the voucher of the cost differences"},
+};
+
+constexpr RowAction kAbcActions[] = {
+    {"ActA", "the items of class A", ActionKind::DrawsAgain},
+    {"ActB", "the items of class B", ActionKind::DrawsAgain},
+    {"ActC", "the items of class C", ActionKind::DrawsAgain},
+    {"ActOption", "the thresholds of the classes", ActionKind::ShowsOptions},
+};
+
+constexpr RowAction kCostLedgerActions[] = {
+    {"OutDetailInfo", "the document"},
+    {"OutDetailPZ", "the accounting voucher"},
     {"DifPZ", "the voucher of the cost differences"},
 };
 
@@ -32,6 +50,47 @@ constexpr std::string_view kStandardCostColumns =
     "dvoudate,cvoucode,ipzcode,cbustype,cwhname,cinvcode,iinquantity,istdinprice,iindif,iinprice,ioutquantity,"
     "istdoutprice,ioutdif,ioutprice";
 
+constexpr std::string_view kEstimateColumns =
+    "cVouCode,dVouDate,cVouTypeName,cBusType,cVenName,cInvCode,cInvName,QcQuantity,QcMoney,InQuantity,InMoney,"
+    "Outquantity,OutMoney,QmQuantity,QmMoney";
+
+constexpr std::string_view kTemplateColumns =
+    "单据日期,发货单号,出库单号,业务类型,存货_编码,存货_名称,期初_数量,期初_金额,收入_数量,收入_金额,发出_数量,发出_金额,结存_数量,结存_金额";
+
+constexpr std::string_view kGoodsSummaryColumns =
+    "cDLCode,cCode,dVouDate,cInvCode,cInvName,Q_Quantity,Q_Price,R_Quantity,R_Price,D_Quantity,D_Price,E_Quantity,"
+    "E_Price";
+
+// Of one cost item, or of their total where all are shown.
+constexpr std::string_view kCostSummaryColumns =
+    "cDLCode,cCode,cInvCode,cInvName,Q_Qty,Q_*_RealCost,R_Qty,R_*_RealCost,D_Qty,D_*_RealCost,E_Qty,E_*_RealCost";
+constexpr std::string_view kCostLedgerColumns =
+    "dKeepDate,cVouchName,cVouCode,cPZNo,R_Qty,R_*_UnitRealCost,R_*_RealCost,D_Qty,D_*_UnitRealCost,D_*_RealCost,"
+    "E_Qty,E_*_UnitRealCost,E_*_RealCost";
+
+constexpr std::string_view kPriceColumns =
+    "dVouDate,cVouCode,cVouTypeName,cBusType,cWhName,cInvCode,cInvName,cBatchia,Price,BasePrice,Ratio,DiffRatio,"
+    "ReferenceCost,ExPrice,InPrice,AvgPrice,Balanceunit";
+constexpr std::string_view kStockLineColumns =
+    "cInvCode,cInvName,cwhname,cvoutype,cbustype,crdname,QcQuantity,QcPrice,InQuantity,InPrice,OutQuantity,"
+    "OutPrice";
+
+// Of the dates all rows say the same.
+constexpr std::string_view kTurnoverColumns =
+    "部门_编码,部门_名称,仓库_编码,仓库_名称,存货_分类,存货_编码,存货_名称,存货_代码,存货_规格,存货_单位,分析_期初余额,分析_期末余额,"
+    "分析_平均库存,分析_出库成本,分析_出库数量,分析_周转率,分析_周转天数";
+constexpr std::string_view kAbcColumns =
+    "存货_编码,存货_名称,存货_规格,存货_单位,分析_数量,分析_数量比例,分析_金额,分析_金额比例,分析_ABC类别";
+
+constexpr ColumnMark kTurnoverMarks[] = {{"分析_周转率", MarkKind::Share}};
+constexpr ColumnMark kAbcMarks[] = {
+    {"分析_ABC类别", MarkKind::Class},
+    {"分析_金额比例", MarkKind::Share},
+    {"分析_数量比例", MarkKind::Share},
+};
+constexpr ColumnMark kPriceMarks[] = {{"DiffRatio", MarkKind::Deviation}};
+constexpr ColumnMark kCapitalMarks[] = {{"所占比重", MarkKind::Share}};
+
 // Two lines a report: name, titles; class, filter identity, order, statements.
 // clang-format off
 constexpr Report kReports[] = {
@@ -41,23 +100,32 @@ constexpr Report kReports[] = {
      "clsStaCostacc", "C921AEDB-0DCD-4185-BCAA-00326BC8504F", "", 0,
      kStandardCostColumns, kStandardCostActions},
     {"stock-summary", "收发存汇总表", "Receipt-issue-balance summary",
-     "clsSfcSumInfo", "F3D99620-46E3-465E-97C7-ECD73735B108", "", 0},
+     "clsSfcSumInfo", "F3D99620-46E3-465E-97C7-ECD73735B108", "cInvCode, cwhcode, bacc, id", 0,
+     kStockLineColumns, {}, {}, {}, &kStockDefinition},
     {"estimate-balance", "暂估材料余额表", "Estimate balance",
-     "clsLastRep", "AE8206FE-FE76-4B18-9976-18400D11A2FA", "", 0},
+     "clsLastRep", "AE8206FE-FE76-4B18-9976-18400D11A2FA", "ID, cVouType", 0, kEstimateColumns},
     {"goods-summary", "发出商品汇总表", "Goods-in-transit summary",
-     "clsFCSumInfo", "IA[__]发出商品汇总表", "", 0},
+     "clsFCSumInfo", "IA[__]发出商品汇总表", "iSrcID, cSRcVoutype", 0, kGoodsSummaryColumns},
+    {"goods-template", "发出商品余额模板", "Goods-in-transit template",
+     "", "", "存货大类_编码, 仓库_编码, 发货单号, 出库单号", 0, kTemplateColumns, {}, {}, {}, nullptr,
+     ReportEntry::Template},
     {"goods-cost-summary", "发出商品成本项目汇总表", "Goods-in-transit summary by cost item",
-     "ClsFCInventory", "AD454C72-A5FF-4949-AF35-EA0CBAA02803", "", 0},
+     "ClsFCInventory", "AD454C72-A5FF-4949-AF35-EA0CBAA02803", "iSrcID, cSRcVoutype", 0,
+     kCostSummaryColumns},
     {"goods-cost-ledger", "发出商品成本项目明细账", "Goods-in-transit ledger by cost item",
-     "ClsOutDetailInfo", "3C19A4D5-F302-4216-91C4-1F65F7817AFC", "", 0},
+     "ClsOutDetailInfo", "3C19A4D5-F302-4216-91C4-1F65F7817AFC", "imonth, ino", 0,
+     kCostLedgerColumns, kCostLedgerActions, {}, {"flag", "1"}},
     {"price-analysis", "存货价格分析", "Inventory price analysis",
-     "clsIaAnalysis", "IA[__]存货价格分析", "", 0},
+     "clsIaAnalysis", "IA[__]存货价格分析", "dVouDate, cVouType, autoid", 42, kPriceColumns, kPriceActions,
+     kPriceMarks},
     {"turnover", "存货周转率分析", "Inventory turnover analysis",
-     "clsCinTurnRep", "IA[__]存货周转率分析", "", 0},
+     "clsCinTurnRep", "IA[__]存货周转率分析", "部门_编码, 仓库_编码, 存货_分类, 存货_编码", 35,
+     kTurnoverColumns, {}, kTurnoverMarks},
     {"abc", "ABC成本分析", "ABC cost analysis",
-     "ClsABC", "IA[__]ABC成本分析", "", 0},
+     "ClsABC", "IA[__]ABC成本分析", "分析_ABC类别, 分析_金额比例 desc, 存货_编码", 25,
+     kAbcColumns, kAbcActions, kAbcMarks},
     {"capital-share", "存货资金占用分析", "Capital share",
-     "clsProPortion", "2BEEF300-28F0-4716-9D8A-9F0424174763", "cNo", 15},
+     "clsProPortion", "2BEEF300-28F0-4716-9D8A-9F0424174763", "cNo", 16, {}, {}, kCapitalMarks},
     {"area-table", "区域存货收发表", "Area-limited data table",
      "clsAreaStockReport", "", "", 1},
 };
@@ -75,25 +143,45 @@ std::span<const Report> AllReports()
     return kReports;
 }
 
+namespace {
+
+bool HasFilter(const Report& report)
+{
+    return HasDataFile("filters/" + std::string(report.name) + ".json");
+}
+
+const Report& Find(std::string_view name, bool (*isThere)(const Report&))
+{
+    std::vector<std::string_view> there;
+    for (const Report& report : kReports) {
+        if (EqualsNoCase(report.name, name)) {
+            if (!isThere(report))
+                throw UsageError("The report " + std::string(report.name) + " is not part of this build.");
+            return report;
+        }
+        if (isThere(report))
+            there.push_back(report.name);
+    }
+    throw UsageError("There is no report \"" + std::string(name) + "\"." + DidYouMean(name, there));
+}
+
+}  // namespace
+
 bool IsBuilt(const Report& report)
 {
-    return CanCreate("Kavelin." + std::string(report.className)) &&
-           HasDataFile("filters/" + std::string(report.name) + ".json");
+    const bool made =
+        report.entry == ReportEntry::Template || CanCreate("Kavelin." + std::string(report.className));
+    return made && HasFilter(report);
 }
 
 const Report& FindReport(std::string_view name)
 {
-    std::vector<std::string_view> built;
-    for (const Report& report : kReports) {
-        if (EqualsNoCase(report.name, name)) {
-            if (!IsBuilt(report))
-                throw UsageError("The report " + std::string(report.name) + " is not part of this build.");
-            return report;
-        }
-        if (IsBuilt(report))
-            built.push_back(report.name);
-    }
-    throw UsageError("There is no report \"" + std::string(name) + "\"." + DidYouMean(name, built));
+    return Find(name, IsBuilt);
+}
+
+const Report& FindFilterOf(std::string_view name)
+{
+    return Find(name, HasFilter);
 }
 
 }  // namespace kavelin::host

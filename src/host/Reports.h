@@ -1,15 +1,39 @@
 // The reports of the library, as the host knows them.
 #pragma once
 
+#include "host/output/CellMarks.h"
+
 #include <span>
 #include <string>
 #include <string_view>
 
 namespace kavelin::host {
 
+struct ReportDefinition;
+
+enum class ActionKind {
+    OpensRow,      // what is behind a row
+    DrawsAgain,    // the whole report
+    ShowsOptions,  // a form, for which no account is needed
+};
+
+// A command of a report's toolbar.
 struct RowAction {
     std::string_view name;
     std::string_view opens;
+    ActionKind kind = ActionKind::OpensRow;
+};
+
+// Tells the lines of a result from its openings and totals.
+struct LineMark {
+    std::string_view column;  // empty: all rows are lines
+    std::string_view value;   // of a line
+};
+
+// What the host calls to have a result made.
+enum class ReportEntry {
+    Class,     // GETSQL of the public class
+    Template,  // CreateNewTemplate of the goods-in-transit template, which no public class leads to
 };
 
 struct Report {
@@ -20,10 +44,16 @@ struct Report {
     std::string_view filterId;   // identity of its filter; empty for a report without a dialog
     std::string_view orderBy;    // columns by which its result is read; empty: as the database gives it
     int statements;              // that a usual run sends, for a progress line; 0: not known
-    // What its table shows of a result that is too wide for one, separated by commas; empty: all columns.
+    // What its table shows of a result that is too wide for one, separated by commas; empty: all columns. A
+    // name with a "*" is the first column that it fits; what the result of a run lacks is passed over.
     std::string_view tableColumns = {};
-    // Commands by which a row of the result is opened, the usual one first; none: rows open nothing.
+    // Commands on its result, the usual one first; none: there is nothing to open.
     std::span<const RowAction> actions = {};
+    std::span<const ColumnMark> marks = {};  // what its table shows as a picture too
+    LineMark lines = {};
+    // What the host makes of its result for a reader; null: the result is what he wants to see.
+    const ReportDefinition* definition = nullptr;
+    ReportEntry entry = ReportEntry::Class;
 
     std::string_view Title(std::string_view language) const;
 };
@@ -37,5 +67,8 @@ bool IsBuilt(const Report& report);
 // The report of that name, without regard to case. Throws UsageError, with the nearest name if there is
 // one, and if the report is not built.
 const Report& FindReport(std::string_view name);
+
+// The same for who wants its filter only: also of a report whose class is not built.
+const Report& FindFilterOf(std::string_view name);
 
 }  // namespace kavelin::host

@@ -8,7 +8,7 @@ namespace kavelin::host {
 
 struct ShownMessage {
     std::string text;
-    int icon;  // kInformation or kWarning
+    int icon;  // kInformation or kWarning; 0 for none
 
     bool operator==(const ShownMessage&) const = default;
 };

@@ -45,6 +45,8 @@ class Viewer : public LateBag {
   protected:
     virtual void Open(std::string_view member, const std::vector<Variant>& arguments) = 0;
 
+    const ViewerSettings& Settings() const { return objSettings; }
+
     void Show(const std::vector<ViewerRows>& found, const std::string& what, const LocalText& missing)
     {
         if (found.empty())
@@ -63,6 +65,8 @@ class Viewer : public LateBag {
 
     ViewerSettings objSettings;
 };
+
+const LocalText kNoDocument = {"账套中没有单据 ", "The account has no document "};
 
 // Corvane.clsUniVch: documents.
 class DocumentViewer : public Viewer {
@@ -104,8 +108,7 @@ class DocumentViewer : public Viewer {
 
     void ShowBy(Connection& account, const std::string& vouType, DocumentKey by, const std::string& key)
     {
-        Viewer::Show(FindDocument(account, vouType, by, key), vouType + " " + key,
-                     {"账套中没有单据 ", "The account has no document "});
+        Viewer::Show(FindDocument(account, vouType, by, key), vouType + " " + key, kNoDocument);
     }
 };
 
@@ -149,6 +152,50 @@ class VoucherViewer : public Viewer {
     }
 };
 
+// VosPortalProxy.Business: the portal. Of its lists it knows those of documents that no viewer shows.
+class Portal : public Viewer {
+  public:
+    using Viewer::Viewer;
+
+  protected:
+    // The command is "NAME:VALUE&&&NAME:VALUE..."; its CmdLine names a document's number and a list, each behind
+    // a tab.
+    void Open(std::string_view member, const std::vector<Variant>& arguments) override
+    {
+        if (!EqualsNoCase(member, "RunCommand"))
+            ThrowNoMember(member);
+        constexpr std::string_view kLine = "CmdLine:";
+        for (const std::string& part : Split(TextAt(arguments, 0), "&&&"))
+            if (part.starts_with(kLine))
+                return OpenList(Split(part.substr(kLine.size()), "\t"));
+        throw Error("The portal knows no command without a command line.");
+    }
+
+  private:
+    struct List {
+        std::string_view name, vouType;
+    };
+    static constexpr List kLists[] = {{"V_IA_CreditDifVouchList", "66"}};
+
+    void OpenList(const std::vector<std::string>& line)
+    {
+        const std::string name = line.size() == 3 ? line[2] : "";
+        for (const List& list : kLists)
+            if (EqualsNoCase(name, list.name))
+                return ShowNumber(std::string(list.vouType), line[1]);
+        throw Error("The portal has no list \"" + name + "\".");
+    }
+
+    void ShowNumber(const std::string& vouType, const std::string& number)
+    {
+        if (!Settings().openAccount)
+            throw Error("The portal has no account.");
+        const auto account = Settings().openAccount();
+        Show(FindDocument(*account, vouType, DocumentKey::Number, number), vouType + " " + number,
+             kNoDocument);
+    }
+};
+
 }  // namespace
 
 std::shared_ptr<LateBound> CreateSuiteObject(const std::string& name, const ViewerSettings& settings)
@@ -160,7 +207,7 @@ std::shared_ptr<LateBound> CreateSuiteObject(const std::string& name, const View
     if (EqualsNoCase(name, "Brannic.clsPZ"))
         return std::make_shared<VoucherViewer>(settings);
     if (EqualsNoCase(name, "VosPortalProxy.Business"))
-        return std::make_shared<LateBag>();
+        return std::make_shared<Portal>(settings);
     return nullptr;
 }
 

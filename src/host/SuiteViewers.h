@@ -19,6 +19,8 @@ struct ViewerSettings {
     ViewerSink onShow;      // may be empty: nothing is shown
     MessageSink onMessage;  // likewise
     std::string language;
+    // Opens the account for the portal, whose commands bring no connection along; without it they fail.
+    std::function<std::shared_ptr<Connection>()> openAccount = {};
 };
 
 // A new object; null if this host has none of that name. Reports pass the errors of these objects over, so

@@ -3,6 +3,7 @@
 #include "frame/Decimal.h"
 #include "frame/Text.h"
 #include "frame/Value.h"
+#include "host/FieldValues.h"
 #include "host/HostErrors.h"
 #include "host/Log.h"
 
@@ -120,8 +121,21 @@ std::string CheckedDate(const FilterField& field, std::string_view value)
     return FormatDate(date);
 }
 
+// One of the forms in which a user may write a value of the kind, as the filter holds it.
+std::string CheckedForm(const FilterField& field, std::string_view value,
+                        std::optional<std::string> (*read)(std::string_view))
+{
+    const auto text = read(value);
+    if (!text)
+        RefuseKind(field, value);
+    return *text;
+}
+
+// Without entries it is the dialog that knows what it offers.
 std::string CheckedEntry(const FilterField& field, std::string_view value)
 {
+    if (field.entries.empty())
+        return std::string(value);
     for (const ListEntry& entry : field.entries)
         if (EqualsNoCase(entry.value, value) || EqualsNoCase(entry.caption.chinese, value) ||
             EqualsNoCase(entry.caption.english, value))
@@ -191,6 +205,9 @@ std::string CheckedValue(const FilterField& field, std::string_view value, Value
         case FieldKind::Date: return CheckedDate(field, trimmed);
         case FieldKind::List: return CheckedEntry(field, trimmed);
         case FieldKind::Flag: return CheckedFlag(field, trimmed);
+        case FieldKind::Year: return CheckedForm(field, trimmed, YearText);
+        case FieldKind::Month: return CheckedForm(field, trimmed, MonthText);
+        case FieldKind::Period: return CheckedForm(field, trimmed, PeriodText);
         case FieldKind::Text:
         case FieldKind::Reference: break;
     }

@@ -21,10 +21,11 @@ constexpr std::size_t kLongestValue = 4000;  // characters
 // Why the value cannot be pasted into a statement: "holds a quote (')". Nothing if it can.
 std::optional<std::string> Objection(std::string_view value);
 
-// The value as the report takes it: a date as YYYY-MM-DD, a list entry in its own spelling, a flag as 是 or
-// 否, numbers without blanks around them, everything else as it is. An empty value stays empty: it sets
-// nothing. Throws UsageError, naming the key and what it takes, for a value of the wrong kind and for one
-// with an objection, unless the policy lets it through; the log then has a warning.
+// The value as the report takes it: a date as YYYY-MM-DD, a list entry in its own spelling, a flag as 是 or 否,
+// years and months as host/FieldValues.h tells, numbers without blanks around them, everything else as it is.
+// An empty value stays empty: it sets nothing. Throws UsageError, naming the key and what it takes, for a
+// value of the wrong kind and for one with an objection, unless the policy lets it through; the log then has
+// a warning.
 std::string CheckedValue(const FilterField& field, std::string_view value, ValuePolicy policy);
 
 // Edit distance without regard to case, in characters.

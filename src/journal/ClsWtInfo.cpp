@@ -1,7 +1,7 @@
 #include "journal/ClsWtInfo.h"
 
 #include "frame/Guards.h"
-#include "journal/DrillDown.h"
+#include "frame/drilldown/DrillDown.h"
 #include "journal/ModWtInfo.h"
 
 namespace kavelin {
@@ -23,7 +23,6 @@ DrillDownRules Rules(std::span<const ViewerType> viewerTypes)
         .actions = kActions,
         .otherwise = DrillTarget::Voucher,
         .document = {"cVouType", "单据号", "业务类型", "ID", "AutoID"},
-        .documentKinds = OrdinaryDocumentKinds(),
         .viewerTypes = viewerTypes,
         .voucherCell = "cPzID",
         .voucherYears = LedgerVoucherYears(),

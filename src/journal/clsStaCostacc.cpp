@@ -3,8 +3,8 @@
 #include "frame/AccountParameters.h"
 #include "frame/Guards.h"
 #include "frame/ModPub.h"
+#include "frame/drilldown/DrillDown.h"
 #include "journal/CostStatements.h"
-#include "journal/DrillDown.h"
 #include "journal/ModWtInfo.h"
 #include "journal/WtCodes.h"
 
@@ -29,6 +29,8 @@ constexpr YearQuery kDifferenceYears[] = {
      "' "},
 };
 
+constexpr DrillTarget kMakesPortal[] = {DrillTarget::Voucher, DrillTarget::DifferenceVoucher};
+
 // The result lacks CvouType, iPzid and ID, so that its own rows leave them empty.
 DrillDownRules Rules()
 {
@@ -36,14 +38,13 @@ DrillDownRules Rules()
         .actions = kActions,
         .otherwise = DrillTarget::Voucher,
         .document = {"CvouType", "cvoucode", "cbustype", "iPzid", "ID"},
-        .documentKinds = OrdinaryDocumentKinds(),
         .viewerTypes = kViewerTypes,
         .voucherCell = "cpzid",
         .voucherYears = LedgerVoucherYears(),
         .differenceCell = "cdifpzid",
         .differenceBusTypeCell = "cbustype",
         .differenceYears = kDifferenceYears,
-        .makesPortal = true,
+        .makesPortal = kMakesPortal,
     };
 }
 

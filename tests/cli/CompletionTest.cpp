@@ -1,5 +1,6 @@
 // The bash script is run in bash; the other two are read, since their shells need not be installed.
 #include "cli/Process.h"
+#include "host/Reports.h"
 
 #include <gtest/gtest.h>
 
@@ -8,6 +9,8 @@
 #include <cstdio>
 #include <memory>
 #include <sstream>
+#include <string>
+#include <vector>
 
 namespace kavelin::cli {
 namespace {
@@ -22,6 +25,25 @@ std::string Shell(const std::string& command)
     return text;
 }
 
+std::string Sorted(std::vector<std::string> words)
+{
+    std::ranges::sort(words);
+    std::string text;
+    for (const std::string& word : words)
+        text += (text.empty() ? "" : " ") + word;
+    return text;
+}
+
+// The commands that the general help lists.
+std::vector<std::string> Commands(const std::string& help)
+{
+    std::istringstream lines(help.substr(help.find("\nCommands:\n") + 11));
+    std::vector<std::string> commands;
+    for (std::string line; std::getline(lines, line) && line.starts_with("  ");)
+        commands.push_back(line.substr(2, line.find(' ', 2) - 2));
+    return commands;
+}
+
 TEST(Completion, BashOffersWhatMayFollow)
 {
     const Program program;
@@ -29,15 +51,23 @@ TEST(Completion, BashOffersWhatMayFollow)
     ASSERT_EQ(script.exitCode, 0);
     program.Write("kavelin.bash", script.out);
 
+    std::vector<std::string> built;
+    for (const host::Report& report : host::AllReports())
+        if (host::IsBuilt(report))
+            built.emplace_back(report.name);
+    const std::string reports = Sorted(built);
+    const std::string commands = Sorted(Commands(program.Run({"--help"}).out));
+
     // `words` as bash breaks them, the last one at the cursor.
     const struct {
-        std::string_view words, offered;
+        std::string_view words;
+        std::string offered;
     } cases[] = {
-        {"kavelin ''", "account completion demo fields open query reports run"},
+        {"kavelin ''", commands},
         {"kavelin r", "reports run"},
         {"kavelin --v", "--version"},
         {"kavelin account ''", "check create export load"},
-        {"kavelin run ''", "area-table capital-share journal standard-cost-journal"},
+        {"kavelin run ''", reports},
         {"kavelin run cap", "capital-share"},
         {"kavelin run capital-share ''", ""},
         {"kavelin run capital-share --f", "--filter --format"},
@@ -48,6 +78,12 @@ TEST(Completion, BashOffersWhatMayFollow)
         {"kavelin run --format csv cap", "capital-share"},
         {"kavelin run area-table --set IAA", "IAAreeTable="},
         {"kavelin fields are", "area-table"},
+        {"kavelin lookup cap", "capital-share"},
+        {"kavelin lookup capital-share cw", "cwhcode"},
+        {"kavelin lookup capital-share cwhcode ''", ""},
+        {"kavelin lookup capital-share cwhcode 0 --page", "--page --page-size"},
+        {"kavelin run stock-summary --gr", "--group"},
+        {"kavelin run stock-summary --group ''", "business class document free item rd warehouse"},
         {"kavelin completion z", "zsh"},
         {"kavelin run --language en", "en-US"},
         {"kavelin query --lim", ""},
@@ -78,9 +114,9 @@ TEST(Completion, EveryShellKnowsCommandsOptionsReportsAndKeys)
         const Outcome script = program.Run({"completion", shell});
         EXPECT_EQ(script.exitCode, 0);
         EXPECT_EQ(script.err, "");
-        for (const char* word :
-             {"demo", "reports", "fields", "account", "create", "load", "export", "query", "completion",
-              "format", "show-sql", "capital-share", "area-table", "cinvccode", "IAAreeTable", "zh-CN"})
+        for (const char* word : {"demo", "reports", "fields", "lookup", "account", "create", "load", "export",
+                                 "query", "completion", "format", "show-sql", "capital-share", "area-table",
+                                 "cinvccode", "IAAreeTable", "zh-CN", "abc-options", "chart", "ActOption"})
             EXPECT_NE(script.out.find(word), std::string::npos) << shell << " lacks " << word;
     }
 }

@@ -143,6 +143,58 @@ TEST_F(RunTest, ColumnsAreChosenByNameOrByTheReport)
     EXPECT_NE(none.err.find("no column \"nix\""), std::string::npos) << none.err;
 }
 
+TEST_F(RunTest, ASummaryIsGroupedWithTotalsInTheTableOnly)
+{
+    const std::vector<std::string> march = {"run", "stock-summary", "--set", "dVouDate=2008-03-01..2008-03-31"};
+    const auto run = [&](std::vector<std::string> more) {
+        more.insert(more.begin(), march.begin(), march.end());
+        return OnDemo(more);
+    };
+    const Outcome table = run({"--group", "warehouse"});
+    ASSERT_EQ(table.exitCode, 0) << table.err;
+    EXPECT_TRUE(Lines(table.out).front().starts_with("仓库  仓库名")) << table.out;
+    EXPECT_NE(table.out.find("\n合计"), std::string::npos) << table.out;
+    EXPECT_NE(run({"--group", "warehouse", "--language", "en-US"}).out.find("\nTotal"), std::string::npos);
+
+    const Outcome text = run({"--group", "warehouse", "--format", "json"});
+    ASSERT_EQ(text.exitCode, 0) << text.err;
+    const json rows = json::parse(text.out);
+    const Outcome totals = run({"--group", "business", "--format", "json"});
+    double closing = 0;
+    for (const json& row : rows) {
+        EXPECT_FALSE(row.at("cwhcode").get<std::string>().empty());
+        closing += row.at("QmPrice").get<double>();
+    }
+    for (const json& row : json::parse(totals.out))
+        closing -= row.at("QmPrice").get<double>();
+    EXPECT_NEAR(closing, 0, 0.001) << "a grouping changes no sum";
+
+    const Outcome lines = run({"--lines", "--format", "json"});
+    EXPECT_GT(json::parse(lines.out).size(), 50u);
+    EXPECT_TRUE(json::parse(lines.out).at(0).contains("brdflagtext"));
+    EXPECT_EQ(lines.err, "");
+}
+
+TEST_F(RunTest, OnlyASummaryIsGrouped)
+{
+    for (const char* flag : {"--group=item", "--lines"}) {
+        const Outcome outcome = OnDemo({"run", "capital-share", flag});
+        EXPECT_EQ(outcome.exitCode, 2);
+        EXPECT_NE(outcome.err.find("neither --group nor --lines"), std::string::npos) << outcome.err;
+    }
+    const std::vector<std::string> summary = {"run", "stock-summary", "--set", "dVouDate=2008-03-01..2008-03-31"};
+    const auto refused = [&](std::vector<std::string> more, const std::string& why) {
+        more.insert(more.begin(), summary.begin(), summary.end());
+        const Outcome outcome = OnDemo(more);
+        EXPECT_EQ(outcome.exitCode, 2);
+        EXPECT_NE(outcome.err.find(why), std::string::npos) << outcome.err;
+    };
+    refused({"--group", "warehose"}, "Did you mean warehouse?");
+    refused({"--group", "item", "--lines"}, "--lines shows rows that are not grouped");
+    const Outcome help = objProgram.Run({"run", "stock-summary", "--help"});
+    EXPECT_NE(help.out.find("item, warehouse, class, free, rd, business, document"), std::string::npos) << help.out;
+}
+
 TEST_F(RunTest, ALimitCutsWhatIsPutOut)
 {
     // The four largest shares differ; of equal ones, either may come first in another run.

@@ -22,18 +22,21 @@ std::string Members(const PublicClass& publicClass)
 }
 
 // Whether the object has the member as the table lists it. A method is called with one argument too many,
-// which every object that has it refuses by the method's name before it runs.
+// which every object that has it refuses by the method's name before it runs. So is a property with an index,
+// which takes its index and a value.
 std::string Offered(LateBound& object, const Member& member)
 {
+    const bool property = member.kind == MemberKind::Property;
+    const int taken = property ? member.arguments + 1 : member.arguments;
     try {
-        if (member.kind == MemberKind::Property) {
+        if (property && member.arguments == 0) {
             object.Get(member.name);
             return std::string(member.name);
         }
-        object.Call(member.name, std::vector<Variant>(static_cast<std::size_t>(member.arguments) + 1));
+        object.Call(member.name, std::vector<Variant>(static_cast<std::size_t>(taken) + 1));
     } catch (const Error& error) {
-        const std::string wanted = std::string(member.name) + " takes " + std::to_string(member.arguments) +
-                                   " arguments, not " + std::to_string(member.arguments + 1) + ".";
+        const std::string wanted = std::string(member.name) + " takes " + std::to_string(taken) +
+                                   " arguments, not " + std::to_string(taken + 1) + ".";
         return error.what() == wanted ? std::string(member.name) : error.what();
     }
     return "it ran";
@@ -219,6 +222,57 @@ TEST(ClsBusinessByName, KeepsThePortal)
     const HostObjectPtr portal = host.LateArgument();
     CreateObject("Kavelin.ClsBusiness")->Call("Init", {portal});
     EXPECT_EQ(HostObjectPtr(ModPub().gobjBusiness), portal);
+}
+
+TEST(FilterControlByName, HandsViewAndCancelBackInTheirArguments)
+{
+    RecordingHost host;
+    host.SetFilter({{"rdGrade", "1"}, {"vouEstate", ""}});
+    host.Filter()->filterId = "F3D99620-46E3-465E-97C7-ECD73735B108";
+    host.Filter()->login = host.Login();
+    const HostObjectPtr filter = host.Filter();
+    const auto control = CreateObject("Kavelin.clsFilterControl");
+    EXPECT_TRUE(ValueOf(control->Call("CallBack_FilterInit", {filter}), "result").IsEmpty());
+    EXPECT_EQ(host.Filter()->From("rdGrade"), Value("0"));
+
+    std::vector<Variant> arguments = {filter, Value()};
+    control->CallByReference("CallBack_ReportViewInit", arguments);
+    EXPECT_EQ(ValueOf(arguments[1], "view"), Value("ordin"));
+
+    host.Filter()->SetFieldValue("rdGrade", "2");
+    arguments = {Value("rdGrade"), filter, Value("ordin")};
+    control->CallByReference("CallBack_ReportViewChange", arguments);
+    EXPECT_EQ(ValueOf(arguments[2], "view"), Value("cross"));
+    arguments = {Value("vouEstate"), filter, Value("kept")};
+    control->CallByReference("CallBack_ReportViewChange", arguments);
+    EXPECT_EQ(ValueOf(arguments[2], "view"), Value("kept"));
+
+    arguments = {filter, Value(false)};
+    control->CallByReference("CallBack_FilterClick", arguments);
+    EXPECT_EQ(ValueOf(arguments[1], "Cancel"), Value(true));
+    host.Filter()->SetFieldValue("vouEstate", "已记账单据");
+    control->CallByReference("callback_filterclick", arguments);
+    EXPECT_EQ(ValueOf(arguments[1], "Cancel"), Value(false));
+    ASSERT_EQ(host.Filter()->contextArgs.size(), 2U) << "two clicks";
+    EXPECT_EQ(host.Filter()->contextArgs[1].second, Value("cross")) << "one object kept the view";
+}
+
+TEST(FilterControlByName, CanBeCalledWithoutTakingAnythingBack)
+{
+    RecordingHost host;
+    host.SetFilter({{"bOutJust", "是"}});
+    host.Filter()->filterId = "正常单据记账";
+    const HostObjectPtr filter = host.Filter();
+    const auto control = CreateObject("Kavelin.clsFilterControl");
+    control->Call("CallBack_ValueChange", {Value("bOutJust"), filter});
+    EXPECT_NE(host.Events().Text().find("RawFilter.SetFieldLocked bSaleCost, True"), std::string::npos);
+    EXPECT_TRUE(ValueOf(control->Call("CallBack_FilterClick", {filter, Value(true)}), "result").IsEmpty());
+
+    EXPECT_THROW(control->Call("CallBack_FilterClick", {HostObjectPtr(), Value(true)}), Error);
+    EXPECT_THROW(control->Call("CallBack_ValueChange", {filter, filter}), Error) << "a key is no object";
+    EXPECT_THROW(control->Call("InitAccMonth", {}), Error) << "nothing has connected yet";
+    std::vector<Variant> arguments = {filter};
+    EXPECT_THROW(control->CallByReference("CallBack_FilterClick", arguments), Error);
 }
 
 }  // namespace kavelin::test

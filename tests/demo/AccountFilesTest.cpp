@@ -3,7 +3,7 @@
 #include "demo/DemoCompany.h"
 #include "demo/NewAccount.h"
 #include "demo/Scripts.h"
-#include "demo/TestFolder.h"
+#include "demo/QueryRows.h"
 #include "frame/Errors.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "demo/DemoCompany.h"
 
 #include "demo/MemorySink.h"
-#include "demo/TestFolder.h"
+#include "demo/QueryRows.h"
 #include "embedded/EmbeddedAccount.h"
 #include "embedded/engine/Instance.h"
 #include "frame/Errors.h"

@@ -1,6 +1,6 @@
 #include "demo/ObjectCatalogue.h"
 
-#include "demo/TestFolder.h"
+#include "demo/QueryRows.h"
 #include "frame/Text.h"
 
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "demo/NewAccount.h"
-#include "demo/TestFolder.h"
+#include "demo/QueryRows.h"
 #include "frame/Connection.h"
 
 #include <memory>

@@ -78,6 +78,46 @@ TEST(DropTableQuiet, SendsOneStatementAndSwallowsEveryError)
     EXPECT_NO_THROW(DropTableQuiet(*connection, "missing"));
 }
 
+TEST(DropTempdbTable, AsksForTheBareNameInTempdb)
+{
+    const struct {
+        const char *table, *name;
+    } cases[] = {
+        {"goods", "goods"},           {"[goods]", "goods"},
+        {"tempdb..goods", "goods"},   {"TempDB..[goods]", "goods"},
+        {"[goods", "[goods"},         {"goods]", "goods]"},
+        {"[tempdb..a]", "tempdb..a"}, {"tempdb.dbo.a", "tempdb.dbo.a"},
+    };
+    for (const auto& c : cases) {
+        RecordingHost host;
+        host.OpenAccount();
+        DropTempdbTable(c.table);
+        const std::string name = c.name;
+        EXPECT_EQ(host.Events().Text(),
+                  "#1.Execute if exists(Select id from tempdb..sysobjects where id= object_id(N'tempdb.." +
+                      name + "')) Drop Table tempdb..[" + name + "]\n");
+    }
+}
+
+TEST(DropTempdbTable, ShowsItsErrorsAndThatOfAnEmptyName)
+{
+    RecordingHost host;
+    host.OpenAccount();
+    host.Answers().texts = {{"Orvo.IA.CHHSSQL.07860", "no name"}};
+    for (const char* empty : {"", "tempdb..", "[]", "Tempdb..[]"}) {
+        host.Events().Clear();
+        EXPECT_NO_THROW(DropTempdbTable(empty));
+        EXPECT_TRUE(host.Events().Text().ends_with("ResourceObject.ShowMessage no name, 48\n"))
+            << host.Events().Text();
+    }
+    EXPECT_TRUE(host.Sent().empty());
+
+    host.Script().failAtStatement = 1;
+    EXPECT_NO_THROW(DropTempdbTable("goods"));
+    EXPECT_TRUE(
+        host.Events().Text().ends_with("ResourceObject.ShowMessage planned failure of statement 1, 48\n"));
+}
+
 TEST(RecordExists, TellsWhetherARowCameBack)
 {
     RecordingHost host;

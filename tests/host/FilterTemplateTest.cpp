@@ -82,8 +82,17 @@ TEST(FilterTemplate, RefusesADescriptionThatMakesNoSense)
          "The filter template of test: field 1 has the unknown member \"rang\"."},
         {R"({"fields": [{"key": "a", )" + caption + R"(, "kind": "text", "range": true, "multiple": true}]})",
          "The filter template of test: field 1 a is either a range or a multiple selection."},
-        {R"({"fields": [{"key": "a", )" + caption + R"(, "kind": "list"}]})",
-         "The filter template of test: field 1 a has entries if and only if it is a list."},
+        {R"({"fields": [{"key": "a", )" + caption + R"(, "kind": "text", "entries": [{"value": "x", )" +
+             caption + "}]}]}",
+         "The filter template of test: field 1 a has entries and is no list."},
+        {R"({"fields": [{"key": "a", )" + caption + R"(, "kind": "text", "bothEnds": true}]})",
+         "The filter template of test: field 1 a has both ends only as a range."},
+        {R"({"fields": [{"key": "a", )" + caption + R"(, "kind": "period", "dates": ["b", "c"]}]})",
+         "The filter template of test: field 1 a has two fields of dates only as a range of periods."},
+        {R"({"fields": [{"key": "a", )" + caption + R"(, "kind": "reference", "lookup": "things"}]})",
+         "The filter template of test: field 1 a has the unknown lookup \"things\"."},
+        {R"({"fields": [{"key": "a{}", )" + caption + R"(, "kind": "text", "numbers": "1-x"}]})",
+         "\"x\" is no number of a family of fields."},
         {R"({"fields": [{"key": "a", )" + caption + R"(, "kind": "text"}, {"key": "A", )" + caption +
              R"(, "kind": "text"}]})",
          "The filter template of test: field 2 has the key A, which another field has."},
@@ -92,6 +101,47 @@ TEST(FilterTemplate, RefusesADescriptionThatMakesNoSense)
     for (const auto& c : cases)
         EXPECT_EQ(ParseError(c.json), c.error) << c.json;
     EXPECT_NE(ParseError("{").find("The filter template of test cannot be read"), std::string::npos);
+}
+
+TEST(FilterTemplate, WritesAFamilyOfFieldsOutNumberByNumber)
+{
+    const Lookups lookups =
+        ParseLookups(R"json({"lookups": {"values": {"from": "V", "where": "1 = 1", "columns": [
+        {"column": "V.cValue", "caption": {"zh-CN": "值", "en-US": "Value"}},
+        {"column": "V.cID", "hidden": true}]}}})json");
+    const FilterTemplate filter = ParseFilterTemplate("test", R"json({"fields": [
+        {"key": "cfree{}", "caption": {"zh-CN": "自由项{}", "en-US": "Free item {}"}, "kind": "reference",
+         "lookup": "values", "lookupWhere": "cID = {+19}", "numbers": "1-2,10"}]})json",
+                                                      lookups);
+    ASSERT_EQ(filter.fields.size(), 3u);
+    EXPECT_EQ(filter.fields[0].key, "cfree1");
+    EXPECT_EQ(filter.fields[1].caption.english, "Free item 2");
+    EXPECT_EQ(filter.fields[2].key, "cfree10");
+    EXPECT_EQ(filter.fields[2].lookup.where, "cID = 29");
+    EXPECT_EQ(filter.fields[2].lookup.columns.size(), 2u);
+    EXPECT_EQ(filter.fields[2].controlKey, "cfree10");
+}
+
+TEST(Lookups, RefuseADescriptionThatMakesNoSense)
+{
+    const struct {
+        std::string_view json, error;
+    } cases[] = {
+        {R"({"lookups": {"a": {"from": "", "columns": [{"column": "x", "hidden": true}]}}})",
+         "The lookup a needs a table and a code that it shows."},
+        {R"({"lookups": {"a": {"from": "T", "columns": [{"column": "x"}]}}})",
+         "The lookup a shows the column x without a caption."},
+        {R"({"lookups": {"a": {"from": "T", "columns": [], "wher": ""}}})",
+         "The lookup a has the unknown member \"wher\"."},
+    };
+    for (const auto& c : cases) {
+        try {
+            ParseLookups(c.json);
+            ADD_FAILURE() << c.error;
+        } catch (const Error& e) {
+            EXPECT_EQ(std::string_view(e.what()), c.error);
+        }
+    }
 }
 
 TEST(FilterTemplate, OfAnUnknownReportIsAnError)

@@ -2,12 +2,14 @@
 
 #include "frame/Errors.h"
 #include "frame/Value.h"
+#include "host/HostLogin.h"
 
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kavelin::host {
 namespace {
@@ -32,6 +34,14 @@ const FilterTemplate& TestTemplate()
         {"key": "cState", "caption": {"zh-CN": "状态", "en-US": "State"}, "kind": "list",
          "entries": [{"value": "甲", "caption": {"zh-CN": "甲", "en-US": "A"}},
                      {"value": "乙", "caption": {"zh-CN": "乙", "en-US": "B"}}]},
+        {"key": "iYear", "caption": {"zh-CN": "年", "en-US": "Year"}, "kind": "year", "column": "a.iYear"},
+        {"key": "iMonth", "caption": {"zh-CN": "月", "en-US": "Month"}, "kind": "month", "range": true,
+         "column": "a.iMonth"},
+        {"key": "iPeriod", "caption": {"zh-CN": "期间", "en-US": "Period"}, "kind": "period", "range": true},
+        {"key": "CcCusCode", "controlKey": "cCusCode", "caption": {"zh-CN": "客户", "en-US": "Customer"},
+         "kind": "reference"},
+        {"key": "cType", "caption": {"zh-CN": "类型", "en-US": "Type"}, "kind": "list", "enum": "IA.Bustype",
+         "multiple": true},
         {"key": "cTable", "caption": {"zh-CN": "表", "en-US": "Table"}, "kind": "text", "argument": true}
     ]})json");
     return filter;
@@ -54,11 +64,13 @@ TEST(HostFilter, ListsItsItemsInTheTemplatesOrderWithoutTheArguments)
     for (int i = 1; i <= list->Count(); ++i)
         names += list->Item(i)->Name() + (list->Item(i)->RangeInput() ? ".." : "") +
                  (list->Item(i)->IsMultSel() ? "* " : " ");
-    EXPECT_EQ(names, "cCode.. cInvCCode cClasses* cClassRange.. nSize* cTab* dDay bMerge cState ");
+    EXPECT_EQ(names,
+              "cCode.. cInvCCode cClasses* cClassRange.. nSize* cTab* dDay bMerge cState iYear iMonth.. "
+              "iPeriod.. CcCusCode cType* ");
     EXPECT_EQ(list->Item("CCODE")->Name(), "cCode");
     EXPECT_EQ(list->Item("cNothing"), nullptr);
     EXPECT_THROW(list->Item(0), Error);
-    EXPECT_THROW(list->Item(10), Error);
+    EXPECT_THROW(list->Item(15), Error);
     EXPECT_EQ(list->Item("cState")->ListSource(), "甲,乙");
 }
 
@@ -108,6 +120,8 @@ TEST(GetWhereWithToken, WordsEveryMatch)
         {{"dDay=2008/7/1"}, "a.dDay = N'2008-07-01'"},
         {{"bMerge=yes", "cState=甲"}, ""},
         {{"cTable=rows"}, ""},
+        {{"iYear=2008年"}, "a.iYear = 2008"},
+        {{"iMonth=3..07"}, "a.iMonth >= 3 and a.iMonth <= 7"},
         {{"dDay=2008-07-01", "nSize=5"}, "a.nSize = 5 and a.dDay = N'2008-07-01'"},
     };
     for (const auto& c : cases)
@@ -131,26 +145,96 @@ TEST(GetWhereWithToken, QuotesWhateverADialogPutsIntoANumberField)
     EXPECT_EQ(filter->GetWhereWithToken(0), "a.nSize = N'1); drop table x'");
 }
 
-TEST(HostFilter, RecordsWhatADialogDoesToItsFields)
+HostFilterItem& ItemOf(HostFilter& filter, std::string_view key)
+{
+    return *filter.Find(key);
+}
+
+TEST(HostFilter, KeepsWhatADialogDoesToItsFieldsBoxByBox)
 {
     const auto filter = Filled({"cCode=A..B"});
     filter->SetFieldLocked("ccode", true);
     filter->SetFieldLocked("cCode__2", false);
     filter->SetFieldFlag("cCode__2", false);
     filter->SetFieldRefCondition("cCode", "", " cid = 20 ");
-    filter->RefreshFieldList("cState", "IA.Oth", "1月,2月");
-    filter->SetFieldRangeList("cCode", "2008.01,2008.02");
 
-    EXPECT_TRUE(filter->StateOf("cCode").locked);
-    EXPECT_FALSE(filter->StateOf("cCode__2").locked);
-    EXPECT_EQ(filter->StateOf("cCode").flag, std::nullopt);
-    EXPECT_EQ(filter->StateOf("cCode__2").flag, false);
-    EXPECT_EQ(filter->StateOf("cCode").condition, " cid = 20 ");
-    EXPECT_EQ(filter->StateOf("cState").listEnumType, "IA.Oth");
-    EXPECT_EQ(filter->StateOf("cState").list, "1月,2月");
-    EXPECT_EQ(filter->StateOf("cCode").rangeList, "2008.01,2008.02");
+    HostFilterItem& item = ItemOf(*filter, "cCode");
+    EXPECT_TRUE(item.state.locked);
+    EXPECT_FALSE(item.secondState.locked);
+    EXPECT_EQ(item.state.flag, std::nullopt);
+    EXPECT_EQ(item.secondState.flag, false);
+    EXPECT_EQ(item.state.condition, " cid = 20 ");
     filter->SetFieldRefCondition("cCode", "", "");
-    EXPECT_EQ(filter->StateOf("cCode").condition, "");
+    EXPECT_EQ(item.state.condition, "");
+    filter->SetFieldLocked("cCode", false);
+    EXPECT_FALSE(item.state.locked);
+}
+
+TEST(HostFilter, OffersTheEntriesOfItsTemplateUntilACallbackGivesOthers)
+{
+    const auto filter = Filled({});
+    const HostFilterItem& item = ItemOf(*filter, "cState");
+    EXPECT_EQ(item.Choices(false), (std::vector<Choice>{{"甲", "甲"}, {"乙", "乙"}}));
+    filter->FilterList()->Item("cState")->SetListSource("乙,丙");
+    EXPECT_EQ(item.Choices(false), (std::vector<Choice>{{"乙", "乙"}, {"丙", "丙"}}));
+    filter->RefreshFieldList("CSTATE", "IA.Month", "1月,2月,");
+    EXPECT_EQ(item.Choices(false), (std::vector<Choice>{{"1月", "1月"}, {"2月", "2月"}}));
+    EXPECT_EQ(filter->FilterList()->Item("cState")->ListSource(), "1月,2月,");
+    filter->RefreshFieldList("cState", "IA.Month", "");
+    EXPECT_TRUE(item.Choices(false).empty());
+}
+
+TEST(HostFilter, GivesEachBoxOfAPairItsHalfOfAPairedList)
+{
+    const auto filter = Filled({});
+    filter->SetFieldRangeList("iPeriod", "2008.01{#}2008.02{##}2008.02{#}2008.03");
+    const HostFilterItem& item = ItemOf(*filter, "iPeriod");
+    EXPECT_EQ(item.Choices(false), (std::vector<Choice>{{"2008.01", "2008.01"}, {"2008.02", "2008.02"}}));
+    EXPECT_EQ(item.Choices(true), (std::vector<Choice>{{"2008.02", "2008.02"}, {"2008.03", "2008.03"}}));
+}
+
+TEST(HostFilter, TakesASelectForALookupAndNoList)
+{
+    const auto filter = Filled({});
+    const auto item = filter->FilterList()->Item("CcCusCode");
+    EXPECT_FALSE(ItemOf(*filter, "CcCusCode").HasLookup());
+    item->SetListSource(" SELECT a as [A],b as [B] FROM T");
+    EXPECT_EQ(ItemOf(*filter, "CcCusCode").LookupSelect(), " SELECT a as [A],b as [B] FROM T");
+    EXPECT_TRUE(ItemOf(*filter, "CcCusCode").Choices(false).empty());
+    item->SetListSource("Selected,Other");
+    EXPECT_FALSE(ItemOf(*filter, "CcCusCode").HasLookup());
+    EXPECT_EQ(ItemOf(*filter, "CcCusCode").Choices(false).size(), 2u);
+}
+
+TEST(HostFilter, ShowsEntriesInTheLanguageOfTheLoginAndTakesWhatItShows)
+{
+    HostFilter filter("ID", TestTemplate(),
+                      std::make_shared<HostLogin>(LoginSettings{"", "", "", "", "en-US"}, nullptr));
+    const HostFilterItem& state = ItemOf(filter, "cState");
+    EXPECT_EQ(state.Choices(false), (std::vector<Choice>{{"甲", "A"}, {"乙", "B"}}));
+    filter.SetFieldValue("cState", Value("b"));
+    EXPECT_EQ(state.From(), "乙");
+    filter.SetFieldValue("cState", Value("丙"));
+    EXPECT_EQ(state.From(), "丙");
+
+    // By the enum texts, each of several.
+    const HostFilterItem& type = ItemOf(filter, "cType");
+    filter.SetFieldValue("cType", Value("Instalment sale,委托代销"));
+    EXPECT_EQ(type.From(), "分期收款,委托代销");
+    filter.FilterList()->Item("cType")->SetListSource("分期收款,全部");
+    EXPECT_EQ(type.Choices(false).front(), (Choice{"分期收款", "Instalment sale"}));
+    filter.RefreshFieldList("cType", "IA.Month", "7月");
+    EXPECT_EQ(type.Choices(false).front(), (Choice{"7月", "Month 7"}));
+}
+
+TEST(HostFilter, FindsAFieldByItsControlKeyToo)
+{
+    const auto filter = Filled({});
+    filter->SetFieldValue("cCusCode", Value("C001"));
+    EXPECT_EQ(filter->FilterList()->Item("CcCusCode")->varValue(), Value("C001"));
+    EXPECT_EQ(filter->FilterList()->Item("CcCusCode")->ControlKey(), "cCusCode");
+    EXPECT_EQ(filter->FilterList()->Item("cCusCode"), nullptr);
+    EXPECT_EQ(filter->GetFieldValue("CcCusCode"), Value("C001"));
 }
 
 TEST(HostFilter, SetsAndReadsBothBoxesOfAField)
@@ -158,10 +242,23 @@ TEST(HostFilter, SetsAndReadsBothBoxesOfAField)
     const auto filter = Filled({"cCode=A..B"});
     EXPECT_EQ(filter->GetFieldValue("CCODE"), Value("A"));
     EXPECT_EQ(filter->GetFieldValue("cCode__2"), Value("B"));
+    EXPECT_EQ(ItemOf(*filter, "cCode").Shown(), "A..B");
     filter->SetFieldValue("cCode__2", Value(""));
     EXPECT_EQ(filter->GetWhereWithToken(0), "a.cCode >= N'A'");
-    EXPECT_THROW(filter->SetFieldValue("cNothing", Value("")), Error);
-    EXPECT_THROW(filter->SetFieldLocked("cNothing", true), Error);
+    EXPECT_EQ(ItemOf(*filter, "cCode").Shown(), "A..");
+}
+
+TEST(HostFilter, PassesOverFieldsThatItsTemplateLacks)
+{
+    const auto filter = Filled({"cCode=A"});
+    filter->SetFieldValue("cNothing", Value("x"));
+    filter->SetFieldLocked("cNothing", true);
+    filter->SetFieldFlag("cNothing", false);
+    filter->SetFieldRefCondition("cNothing", "", "x");
+    filter->RefreshFieldList("cNothing", "IA.Oth", "x");
+    filter->SetFieldRangeList("cNothing", "x{##}x");
+    EXPECT_EQ(filter->GetFieldValue("cNothing"), Value(""));
+    EXPECT_EQ(filter->GetWhereWithToken(0), "a.cCode >= N'A' and a.cCode <= N'A'");
 }
 
 }  // namespace

@@ -197,9 +197,13 @@ TEST_F(ReportRunTest, DropsItsTableAfterACancelledRunToo)
     EXPECT_EQ(Sent().back().rfind("drop table KavelinResult_", 0), 0u);
 }
 
-TEST(Reports, KnowTheTwelveReportsByName)
+TEST(Reports, KnowElevenDialogsTheAreaTableAndTheTemplateByName)
 {
-    EXPECT_EQ(AllReports().size(), 12u);
+    EXPECT_EQ(AllReports().size(), 13u);
+    std::size_t dialogs = 0;
+    for (const Report& report : AllReports())
+        dialogs += !report.filterId.empty();
+    EXPECT_EQ(dialogs, 11u);
     const Report& report = FindReport("Capital-Share");
     EXPECT_EQ(report.className, "clsProPortion");
     EXPECT_EQ(report.filterId, "2BEEF300-28F0-4716-9D8A-9F0424174763");

@@ -103,8 +103,9 @@ class TheHostsViewers : public testing::Test {
     std::shared_ptr<LateBound> Make(const std::string& name, const std::string& language = "zh-CN")
     {
         return CreateSuiteObject(
-            name, {Sink(), [this](const ShownMessage& message) { strShown += "! " + message.text + "\n"; },
-                   language});
+            name,
+            {Sink(), [this](const ShownMessage& message) { strShown += "! " + message.text + "\n"; },
+             language, [this] { return objConnections.Open("portal", objLogin.connectionString, ""); }});
     }
 
     Variant Account() const { return HostObjectPtr(std::make_shared<ConnectionObject>(cnnAccount)); }
@@ -196,6 +197,31 @@ TEST_F(TheHostsViewers, ShowErrorsThatAReportWouldPassOver)
     EXPECT_THROW(Make("Corvane.clsUniVch")->Call("ShowVoucher", {Value("no connection")}), Error);
     EXPECT_THROW(Make("Brannic.clsPZ")->Call("StartUpPz", {}), Error);
     EXPECT_THROW(Make("Tessel.clsPub")->Call("InitPubs2", {}), Error);
+}
+
+TEST_F(TheHostsViewers, ShowADocumentOfThePortalsList)
+{
+    for (const char* statement : kDocuments)
+        cnnAccount->Execute(statement);
+    cnnAccount->Execute("update Demo_Document set cVouType = N'66', cVouCode = N'FD-1' where DocID = 71");
+    const auto portal = Make("VosPortalProxy.Business");
+    const auto run = [&](const std::string& command) {
+        strShown.clear();
+        try {
+            portal->Call("RunCommand", {Value(command)});
+        } catch (const Error&) {
+            strShown += "failed\n";
+        }
+        return strShown;
+    };
+    const std::string before = "ID:IA0214&&&Name:X&&&SubSysID:IA&&&CmdLine:";
+    EXPECT_EQ(run(before + "\tFD-1\tV_IA_CreditDifVouchList"),
+              "单据 66 FD-1\n 71 66\n单据行 66 FD-1\n 710 A\n");
+    EXPECT_EQ(run(before + "\tFD-2\tV_IA_CreditDifVouchList"), "! 账套中没有单据 66 FD-2\n");
+    EXPECT_EQ(run(before + "\tFD-1\tV_Other"), "! The portal has no list \"V_Other\".\nfailed\n");
+    EXPECT_EQ(run(before + "FD-1"), "! The portal has no list \"\".\nfailed\n");
+    EXPECT_EQ(run("ID:IA0214"), "! The portal knows no command without a command line.\nfailed\n");
+    EXPECT_THROW(portal->Call("Other", {}), Error);
 }
 
 TEST_F(TheHostsViewers, ShowAVoucherWithItsRowsOfTheYear)

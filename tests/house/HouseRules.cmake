@@ -12,7 +12,7 @@ endfunction()
 file(GLOB_RECURSE headers ${SOURCE_DIR}/src/*.h)
 file(GLOB_RECURSE sources ${SOURCE_DIR}/src/*.h ${SOURCE_DIR}/src/*.cpp)
 set(library_sources ${sources})
-list(FILTER library_sources INCLUDE REGEX "/src/(frame|journal|analysis|component)/")
+list(FILTER library_sources INCLUDE REGEX "/src/(frame|filter|journal|summary|goods|price|analysis|component)/")
 
 forbid("#include \"\\.\\./" "a header is included by its room, not by a path" ${sources})
 forbid("#include [<\"](duckdb|sql|windows|sqlext)\\.h[>\"]" "no header brings a foreign header along" ${headers})

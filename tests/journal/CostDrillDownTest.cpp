@@ -1,6 +1,6 @@
 // From a row of the standard-cost journal to its document, its voucher or the voucher of its differences.
-#include "journal/DrillDownRun.h"
 #include "journal/clsStaCostacc.h"
+#include "support/DrillDownRun.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include "frame/Errors.h"
 #include "frame/host/ConnectionObject.h"
 #include "journal/ClsWtInfo.h"
-#include "journal/DrillDownRun.h"
+#include "support/DrillDownRun.h"
 
 #include <gtest/gtest.h>
 

@@ -12,8 +12,6 @@
 
 #include <gtest/gtest.h>
 
-#include <unistd.h>
-
 #include <filesystem>
 #include <map>
 
@@ -28,16 +26,6 @@ constexpr std::int64_t kLines = 6000;
 // The accounts of this program.
 class Accounts {
   public:
-    Accounts() : objFolder(fs::temp_directory_path() / ("kavelin-reports-" + std::to_string(::getpid())))
-    {
-        fs::create_directories(objFolder);
-    }
-    ~Accounts()
-    {
-        std::error_code ignored;
-        fs::remove_all(objFolder, ignored);
-    }
-
     std::string Of(const demo::Profile& profile)
     {
         const fs::path path = objFolder / (std::string(profile.name) + ".kavelin");
@@ -47,10 +35,12 @@ class Accounts {
     }
 
   private:
-    fs::path objFolder;
+    TestFolder objFolder;
 };
 
-host::ConnectionSource Connections()
+}  // namespace
+
+host::ConnectionSource LoggedConnections()
 {
     host::StatementObservers observers;
     if (auto log = host::LogFromEnvironment())
@@ -58,7 +48,19 @@ host::ConnectionSource Connections()
     return host::ConnectionSource(std::move(observers));
 }
 
-}  // namespace
+host::AccountLogin LoginTo(const std::string& path, const std::string& language, const std::string& user)
+{
+    host::Flags flags;
+    flags.account = path;
+    flags.language = language;
+    if (!user.empty())
+        flags.user = user;
+    const host::Config config = host::Config::Load(flags);
+    host::AccountLogin login = host::LoginFor(config, *config.Account());
+    login.settingsFile =
+        fs::path(path).parent_path() / "settings.json";  // not those of whoever runs the tests
+    return login;
+}
 
 std::string AccountOf(const demo::Profile& profile)
 {
@@ -66,41 +68,52 @@ std::string AccountOf(const demo::Profile& profile)
     return accounts.Of(profile);
 }
 
-SmallAccount::SmallAccount()
+SmallAccount::SmallAccount() : strPath((objFolder / "small.kavelin").string())
 {
-    static int number = 0;
-    const fs::path folder = fs::temp_directory_path() /
-                            ("kavelin-small-" + std::to_string(::getpid()) + "-" + std::to_string(++number));
-    fs::create_directories(folder);
-    strPath = (folder / "small.kavelin").string();
     demo::CreateEmptyAccount(strPath);
 }
 
-SmallAccount::~SmallAccount()
+void SmallAccount::Run(const std::string& sql)
+{
+    const auto connection =
+        LoggedConnections().Open("setup", host::EmbeddedConnectionString(strPath, "zh-CN"), "");
+    connection->Execute(sql);
+    connection->Close();
+}
+
+AccountCopy::AccountCopy(const demo::Profile& profile)
+{
+    static int number = 0;
+    const fs::path original = AccountOf(profile);
+    const fs::path folder = original.parent_path() / ("copy-" + std::to_string(++number));
+    fs::create_directories(folder);
+    const std::string stem = original.stem().string();
+    for (const fs::directory_entry& file : fs::directory_iterator(original.parent_path()))
+        if (file.is_regular_file() && file.path().filename().string().starts_with(stem + "."))
+            fs::copy_file(file.path(), folder / file.path().filename());
+    strPath = (folder / original.filename()).string();
+}
+
+AccountCopy::~AccountCopy()
 {
     std::error_code ignored;
     fs::remove_all(fs::path(strPath).parent_path(), ignored);
 }
 
-void SmallAccount::Run(const std::string& sql)
-{
-    const auto connection = Connections().Open("setup", host::EmbeddedConnectionString(strPath, "zh-CN"), "");
-    connection->Execute(sql);
-    connection->Close();
-}
-
 AccountReport::AccountReport(const std::string& path, const std::string& report,
                              const std::vector<std::string>& settings, const std::string& language)
+    : strReport(report),
+      objRun(std::make_unique<host::ReportRun>(LoginTo(path, language), LoggedConnections()))
 {
-    host::Flags flags;
-    flags.account = path;
-    flags.language = language;
-    const host::Config config = host::Config::Load(flags);
-    objRun = std::make_unique<host::ReportRun>(host::LoginFor(config, *config.Account()), Connections());
-    host::FilterInput input(host::TemplateOf(report), host::ValuePolicy::Checked);
+    RunAgain(settings);
+}
+
+void AccountReport::RunAgain(const std::vector<std::string>& settings)
+{
+    host::FilterInput input(host::TemplateOf(strReport), host::ValuePolicy::Checked);
     for (const std::string& setting : settings)
         input.Set(setting);
-    objRun->Run(host::FindReport(report), input);
+    objRun->Run(host::FindReport(strReport), input);
 }
 
 AccountReport::AccountReport(const demo::Profile& profile, const std::string& report,

@@ -3,6 +3,7 @@
 
 #include "demo/profiles/Profile.h"
 #include "host/ReportRun.h"
+#include "support/TestFolder.h"
 
 #include <memory>
 #include <string>
@@ -17,16 +18,35 @@ std::string AccountOf(const demo::Profile& profile);
 class SmallAccount {
   public:
     SmallAccount();
-    ~SmallAccount();
-    SmallAccount(const SmallAccount&) = delete;
-    SmallAccount& operator=(const SmallAccount&) = delete;
 
     void Run(const std::string& sql);
     const std::string& Path() const { return strPath; }
 
   private:
+    TestFolder objFolder;
     std::string strPath;
 };
+
+// A copy of a profile's account, for a test that changes it. Goes with the object.
+class AccountCopy {
+  public:
+    explicit AccountCopy(const demo::Profile& profile);
+    ~AccountCopy();
+    AccountCopy(const AccountCopy&) = delete;
+    AccountCopy& operator=(const AccountCopy&) = delete;
+
+    const std::string& Path() const { return strPath; }
+
+  private:
+    std::string strPath;
+};
+
+// The login that the host makes for the account in `path`.
+host::AccountLogin LoginTo(const std::string& path, const std::string& language,
+                           const std::string& user = "");
+
+// Connections whose statements go into the log of the test run.
+host::ConnectionSource LoggedConnections();
 
 class AccountReport {
   public:
@@ -37,6 +57,12 @@ class AccountReport {
     AccountReport(const demo::Profile& profile, const std::string& report,
                   const std::vector<std::string>& settings);
 
+    // Runs it once more, with other values.
+    void RunAgain(const std::vector<std::string>& settings);
+
+    // Changes the account.
+    void Execute(const std::string& sql) { objRun->Account().Execute(sql); }
+
     // A query on the account; "{}" in it stands for the result table. Fields between " | ", rows in lines.
     std::string Rows(const std::string& sql);
     std::vector<std::vector<std::string>> Table(const std::string& sql);
@@ -44,6 +70,7 @@ class AccountReport {
     const std::vector<host::ShownMessage>& Messages() const { return objRun->Messages(); }
 
   private:
+    std::string strReport;
     std::unique_ptr<host::ReportRun> objRun;
 };
 

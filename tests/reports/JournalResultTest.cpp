@@ -12,7 +12,8 @@ constexpr const char* kMasters[] = {
     "insert into VosSystem..UA_Period (cAcc_ID, iYear, iID, dBegin, dEnd, bIsDelete) values"
     " (N'001', 2008, 7, '2008-07-01', '2008-07-31', 0)",
     "insert into AccInformation (cSysID, cName, cValue) values"
-    " (N'IA', N'dIAFirstDate', N'2008-01-01'), (N'SA', N'bZYXS', N'False'), (N'SA', N'bFQSK', N'False'),"
+    " (N'IA', N'dIAFirstDate', N'2008-01-01'), (N'IA', N'dIAStartDate', N'2008-01-01'),"
+    " (N'SA', N'bZYXS', N'False'), (N'SA', N'bFQSK', N'False'),"
     " (N'AA', N'bCommitSell', N'False'), (N'EX', N'dEXFirstDate', N''), (N'IA', N'bSaleType', N'销售出库单'),"
     " (N'IA', N'cEnDispAccountStyle', N'发出商品'), (N'IA', N'cExSaleAccType', N'销售发票'),"
     " (N'IA', N'cValueStyle', N'按仓库核算')",

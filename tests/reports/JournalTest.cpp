@@ -1,6 +1,7 @@
 // The journal on the demo companies, beside what other queries tell about their ledgers and documents.
 #include "demo/profiles/Profile.h"
 #include "frame/Text.h"
+#include "host/HostErrors.h"
 #include "reports/AccountReport.h"
 
 #include <gtest/gtest.h>
@@ -15,6 +16,7 @@ namespace {
 
 const std::string kPosted = "vouEstate=已记账单据";
 const std::string kUnposted = "vouEstate=未记账单据";
+const std::string kAllMonths = "iMonth=";  // takes the current month away
 
 // The ledger's side of a journal: openings and memos are no movements, and a receipt adjustment that adjusts
 // nothing is not shown. Without permissions only warehouses that take part in costing count.
@@ -47,9 +49,10 @@ class JournalOf : public testing::TestWithParam<std::string> {
         return "";
     }
 
+    // Of all months, unless the settings name some.
     void ExpectLedger(std::vector<std::string> settings, const std::string& condition)
     {
-        settings.insert(settings.begin(), kPosted);
+        settings.insert(settings.begin(), {kPosted, kAllMonths});
         AccountReport report(objProfile, "journal", settings);
         const std::string wanted = report.Rows(LedgerSums(condition));
         EXPECT_EQ(report.Rows(kJournalSums), wanted) << settings.back();
@@ -81,6 +84,36 @@ TEST_P(JournalOf, ShowsTheLedgerRowsOfItsConditions)
     ExpectLedger({"Customer.cCusCode=C001..C004"}, " and a.cCusCode >= 'C001' and a.cCusCode <= 'C004'");
 }
 
+// The current month of every demo company is December 2008, the last that has ledger lines.
+TEST_P(JournalOf, ShowsTheCurrentMonthUnlessItIsToldOtherwise)
+{
+    const auto rows = [&](const std::vector<std::string>& settings) {
+        return AccountReport(objProfile, "journal", settings).Rows(kJournalSums);
+    };
+    AccountReport december(objProfile, "journal", {});
+    EXPECT_EQ(december.Rows(kJournalSums),
+              december.Rows(LedgerSums(" and a.dKeepDate >= '2008-12-01' and a.dKeepDate <= '2008-12-31'")));
+    // Documents that are not posted have no posting date.
+    EXPECT_EQ(rows({kUnposted}), rows({kUnposted, kAllMonths, "dVouDate=2008-12-01..2008-12-31"}));
+    EXPECT_EQ(rows({kUnposted, kPosted, "cWhCode=01"}),
+              rows({kUnposted, kPosted, kAllMonths, "cWhCode=01", "dVouDate=2008-12-01..2008-12-31"}));
+}
+
+TEST_P(JournalOf, ShowsTheMonthsThatTheDialogOffers)
+{
+    const auto rows = [&](const std::vector<std::string>& settings) {
+        return AccountReport(objProfile, "journal", settings).Rows(kJournalSums);
+    };
+    if (Setting("ArchiveDate").starts_with("2008")) {  // its months are closed
+        EXPECT_THROW(rows({"iMonth=2008.03"}), host::UsageError);
+        return;
+    }
+    EXPECT_EQ(rows({"iMonth=2008.03..2008.04"}), rows({"dKeepDate=2008-03-01..2008-04-30"}));
+    EXPECT_EQ(rows({"iMonth=2008-11..", "cWhCode=01"}), rows({"dKeepDate=2008-11-01..", "cWhCode=01"}));
+    EXPECT_EQ(rows({kUnposted, "iMonth=2008-11"}),
+              rows({kUnposted, kAllMonths, "dVouDate=2008-11-01..2008-11-30"}));
+}
+
 TEST_P(JournalOf, ShowsTheHalvesOfAVoucherType)
 {
     ExpectLedger({"cVouType=01"}, " and a.cVouType = '01' and a.bFlag <> 1");
@@ -96,7 +129,7 @@ TEST_P(JournalOf, ShowsTheHalvesOfAVoucherType)
 
 TEST_P(JournalOf, ShowsTheRowsOfOneAccountingVoucher)
 {
-    AccountReport report(objProfile, "journal", {kPosted, "PzNoID=7"});
+    AccountReport report(objProfile, "journal", {kPosted, kAllMonths, "PzNoID=7"});
     EXPECT_EQ(
         report.Rows("select count(*) from {}"),
         report.Rows("select count(*) from IA_Subsidiary a inner join gl_AccVouch g on g.cOutNo_ID = a.cPZID"
@@ -110,7 +143,7 @@ TEST_P(JournalOf, ShowsTheRowsOfOneAccountingVoucher)
 // rules of their own: which document posts a sale, and whether another one of the same sale is posted.
 TEST_P(JournalOf, ShowsEachUnpostedDocumentOnce)
 {
-    AccountReport report(objProfile, "journal", {kUnposted});
+    AccountReport report(objProfile, "journal", {kUnposted, kAllMonths});
     EXPECT_TRUE(report.Messages().empty());
     std::map<std::string, int> shown;
     for (const auto& row : report.Table("select AutoID from {}"))
@@ -161,7 +194,8 @@ TEST_P(JournalOf, ShowsEachUnpostedDocumentOnce)
 
 TEST_P(JournalOf, ShowsPostedAndUnpostedTogether)
 {
-    const auto count = [&](const std::vector<std::string>& settings) {
+    const auto count = [&](std::vector<std::string> settings) {
+        settings.push_back(kAllMonths);
         return std::stol(AccountReport(objProfile, "journal", settings).Rows("select count(*) from {}"));
     };
     EXPECT_EQ(count({kPosted, kUnposted}), count({kPosted}) + count({kUnposted}));

@@ -173,7 +173,7 @@ std::string RecordingLogin::Year()
 }
 int RecordingLogin::Month()
 {
-    return objEvents->Add(strName + ".Month"), 7;
+    return objEvents->Add(strName + ".Month"), objAnswers->month;
 }
 DateTime RecordingLogin::Date()
 {

@@ -9,6 +9,16 @@ namespace kavelin::test {
 
 namespace {
 
+Rows ScriptedRows(const ConnectionScript& script, const std::string& sql)
+{
+    if (const auto whole = script.rows.find(sql); whole != script.rows.end())
+        return whole->second;
+    for (const auto& [start, rows] : script.rowsByStart)
+        if (sql.starts_with(start))
+            return rows;
+    return {};
+}
+
 class RecordingRecordset : public Recordset {
   public:
     RecordingRecordset(std::shared_ptr<EventLog> events, std::unique_ptr<Recordset> inner, int number)
@@ -178,9 +188,7 @@ std::unique_ptr<Recordset> RecordingConnection::OpenRecordset(const std::string&
         [&]() -> std::unique_ptr<Recordset> {
             if (cnnInner)
                 return cnnInner->OpenRecordset(sql, location, type, lock);
-            const auto scripted = objScript->rows.find(sql);
-            return std::make_unique<ScriptedRecordset>(
-                scripted == objScript->rows.end() ? Rows{} : scripted->second, type);
+            return std::make_unique<ScriptedRecordset>(ScriptedRows(*objScript, sql), type);
         },
         [](const std::unique_ptr<Recordset>& opened) { return opened->RecordCount(); });
     return std::make_unique<RecordingRecordset>(objEvents, std::move(rows), number);

@@ -20,6 +20,9 @@ struct ConnectionScript {
     // Rows by statement text; every other statement gives none.
     std::map<std::string, Rows> rows;
 
+    // Rows by the beginning of a statement, where no whole text is known.
+    std::map<std::string, Rows> rowsByStart;
+
     // Statements that fail, each time, with a DatabaseError of this message.
     std::map<std::string, std::string> failures;
 

@@ -35,12 +35,12 @@ std::shared_ptr<LateBound> RecordingHost::LateArgument()
 
 std::shared_ptr<DrillDownArgs> RecordingHost::EarlyRowArgument(const std::string& action, const Cells& cells)
 {
-    return std::make_shared<EarlyRow>(RowParts{objEvents, Login(), action, cells});
+    return std::make_shared<EarlyRow>(RowParts{objEvents, Login(), action, cells, objAnswers->rowObjects});
 }
 
 std::shared_ptr<LateBound> RecordingHost::LateRowArgument(const std::string& action, const Cells& cells)
 {
-    return std::make_shared<LateRow>(RowParts{objEvents, Login(), action, cells});
+    return std::make_shared<LateRow>(RowParts{objEvents, Login(), action, cells, objAnswers->rowObjects});
 }
 
 std::shared_ptr<LoginContext> RecordingHost::Login(const std::string& name)

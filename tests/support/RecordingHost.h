@@ -15,10 +15,12 @@
 #include "frame/host/ReportCallArgs.h"
 
 #include <chrono>
+#include <functional>
 #include <map>
 #include <memory>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kavelin::test {
@@ -45,8 +47,21 @@ struct HostAnswers {
     std::map<std::string, std::string> texts;  // GetResString; the key in "<>" for others
     std::map<std::string, std::string>
         codes;  // GetEnumCode by shown text; "code of " and the text for others
+    int month = 7;  // of the login
+    std::vector<std::string> accountYears;
+    std::map<std::string, std::pair<int, int>> yearMonths;  // by year; 1 to 12 for others
+    std::string paramsYear = "2008";  // of LedgerParams
+    std::string valueStyle = "按仓库核算";
+    std::string inventoryQualifier;
+
+    std::map<std::string, std::string> settings;  // by "application, section, key"
+    std::function<void(Form&)> useForm;           // what a user does in a form that is shown
+
     Value clientNumber = 7;
     Guid guid = {};
+
+    // Late-bound members that the argument for a row holds beyond the usual ones.
+    std::map<std::string, HostObjectPtr, LessNoCase> rowObjects;
 
     std::set<std::string> missingObjects;  // of the suite, by name; there are all others
     CallActions callActions;
@@ -85,6 +100,7 @@ class RecordingHost {
 
     // What both arguments hold as ObjreportManager.
     HostObjectPtr ReportManager() const { return objReportManager; }
+    void SetReportManager(HostObjectPtr manager) { objReportManager = std::move(manager); }
 
     // A row of AccInformation: the answer of GetAccInfoValue.
     void SetParameter(const std::string& system, const std::string& name, const Value& value,

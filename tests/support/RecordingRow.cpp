@@ -11,6 +11,14 @@ namespace {
     throw Error("e has no member " + std::string(member) + ".");
 }
 
+Variant ObjectIn(const RowParts& parts, std::string_view member)
+{
+    const auto object = parts.objects.find(member);
+    if (object == parts.objects.end())
+        ThrowNoMember(member);
+    return object->second;
+}
+
 std::string CellOf(const RowParts& parts, const std::string& column)
 {
     const auto cell = parts.cells.find(column);
@@ -71,7 +79,8 @@ std::shared_ptr<kavelin::RelateData> EarlyRow::RelateData()
 
 Variant EarlyRow::Get(std::string_view member)
 {
-    ThrowNoMember(member);
+    objParts.events->Add("late e." + std::string(member));
+    return ObjectIn(objParts, member);
 }
 
 void EarlyRow::Put(std::string_view member, const Variant& /*value*/)
@@ -93,7 +102,7 @@ Variant LateRow::Get(std::string_view member)
         return Value(objParts.action);
     if (EqualsNoCase(member, "RelateData"))
         return HostObjectPtr(std::make_shared<LateCells>(objParts));
-    ThrowNoMember(member);
+    return ObjectIn(objParts, member);
 }
 
 void LateRow::Put(std::string_view member, const Variant& /*value*/)

@@ -21,6 +21,7 @@ struct RowParts {
     std::shared_ptr<LoginContext> login;
     std::string action;
     Cells cells;
+    std::map<std::string, HostObjectPtr, LessNoCase> objects;  // late-bound members that only some hosts have
 };
 
 // Writes "e.Login", "e.Action", "e.RelateData", "RelateData.GetData cVouType".

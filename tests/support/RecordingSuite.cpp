@@ -1,6 +1,7 @@
 #include "support/RecordingSuite.h"
 
 #include "support/RecordingHost.h"
+#include "support/RecordingXml.h"
 
 #include "frame/Errors.h"
 
@@ -40,6 +41,59 @@ class RecordingResources : public ResourceObject {
     {
         objEvents->Add("ResourceObject.ShowMessage " + text + ", " + std::to_string(icon));
     }
+    void Unload() override { objEvents->Add("ResourceObject.Unload"); }
+
+  private:
+    std::shared_ptr<EventLog> objEvents;
+    std::shared_ptr<HostAnswers> objAnswers;
+};
+
+class RecordingSettings : public SettingsStore {
+  public:
+    RecordingSettings(std::shared_ptr<EventLog> events, std::shared_ptr<HostAnswers> answers)
+        : objEvents(std::move(events)), objAnswers(std::move(answers))
+    {
+    }
+
+    std::string Read(const std::string& application, const std::string& section, const std::string& key,
+                     const std::string& byDefault) override
+    {
+        const std::string name = application + ", " + section + ", " + key;
+        objEvents->Add("SettingsStore.Read " + name);
+        const auto found = objAnswers->settings.find(name);
+        return found == objAnswers->settings.end() ? byDefault : found->second;
+    }
+    void Write(const std::string& application, const std::string& section, const std::string& key,
+               const std::string& value) override
+    {
+        const std::string name = application + ", " + section + ", " + key;
+        objEvents->Add("SettingsStore.Write " + name + " = " + value);
+        objAnswers->settings[name] = value;
+    }
+
+  private:
+    std::shared_ptr<EventLog> objEvents;
+    std::shared_ptr<HostAnswers> objAnswers;
+};
+
+class RecordingForms : public FormHost {
+  public:
+    RecordingForms(std::shared_ptr<EventLog> events, std::shared_ptr<HostAnswers> answers)
+        : objEvents(std::move(events)), objAnswers(std::move(answers))
+    {
+    }
+
+    void ShowModal(Form& form) override
+    {
+        objEvents->Add("FormHost.ShowModal " + form.Title());
+        if (objAnswers->useForm)
+            objAnswers->useForm(form);
+        form.Unload();
+    }
+    void ShowMessage(const std::string& text, int icon, const std::string& title) override
+    {
+        objEvents->Add("FormHost.ShowMessage " + text + ", " + std::to_string(icon) + ", " + title);
+    }
 
   private:
     std::shared_ptr<EventLog> objEvents;
@@ -76,7 +130,10 @@ class RecordingLedgerLogin : public LedgerLogin, public NamedObject {
 
 class RecordingLedgerPub : public LedgerPub {
   public:
-    explicit RecordingLedgerPub(std::shared_ptr<EventLog> events) : objEvents(std::move(events)) {}
+    RecordingLedgerPub(std::shared_ptr<EventLog> events, std::shared_ptr<HostAnswers> answers)
+        : objEvents(std::move(events)), objAnswers(std::move(answers))
+    {
+    }
 
     void SetLogin(std::shared_ptr<LedgerLogin> login) override
     {
@@ -91,12 +148,13 @@ class RecordingLedgerPub : public LedgerPub {
     std::pair<int, int> GetYearMonthRange(const std::string& year, Connection& /*account*/) override
     {
         objEvents->Add("LedgerPub.GetYearMonthRange " + year);
-        return {1, 12};
+        const auto found = objAnswers->yearMonths.find(year);
+        return found == objAnswers->yearMonths.end() ? std::pair(1, 12) : found->second;
     }
-    std::vector<std::string> GetAccountYears(Connection& /*account*/) override
+    std::vector<std::string> GetAccountYears(const std::string& year, Connection& /*account*/) override
     {
-        objEvents->Add("LedgerPub.GetAccountYears");
-        return {};
+        objEvents->Add("LedgerPub.GetAccountYears " + year);
+        return objAnswers->accountYears;
     }
     void GetAccountYearParams(LedgerLogin& /*login*/, const std::string& year,
                               LedgerParams& /*params*/) override
@@ -106,16 +164,29 @@ class RecordingLedgerPub : public LedgerPub {
 
   private:
     std::shared_ptr<EventLog> objEvents;
+    std::shared_ptr<HostAnswers> objAnswers;
 };
 
 class RecordingLedgerParams : public LedgerParams {
   public:
-    explicit RecordingLedgerParams(std::shared_ptr<EventLog> events) : objEvents(std::move(events)) {}
+    RecordingLedgerParams(std::shared_ptr<EventLog> events, std::shared_ptr<HostAnswers> answers)
+        : objEvents(std::move(events)), objAnswers(std::move(answers))
+    {
+    }
 
-    std::string ValueStyle() override { return objEvents->Add("LedgerParams.ValueStyle"), "按仓库核算"; }
+    std::string Year() override { return objEvents->Add("LedgerParams.Year"), objAnswers->paramsYear; }
+    std::string ValueStyle() override
+    {
+        return objEvents->Add("LedgerParams.ValueStyle"), objAnswers->valueStyle;
+    }
+    std::string InventoryQualifier() override
+    {
+        return objEvents->Add("LedgerParams.InventoryQualifier"), objAnswers->inventoryQualifier;
+    }
 
   private:
     std::shared_ptr<EventLog> objEvents;
+    std::shared_ptr<HostAnswers> objAnswers;
 };
 
 class RecordingMachineInfo : public MachineInfo {
@@ -184,13 +255,13 @@ std::shared_ptr<LedgerLogin> RecordingPlatform::CreateLedgerLogin()
 std::shared_ptr<LedgerPub> RecordingPlatform::CreateLedgerPub()
 {
     objEvents->Add("new LedgerPub");
-    return std::make_shared<RecordingLedgerPub>(objEvents);
+    return std::make_shared<RecordingLedgerPub>(objEvents, objAnswers);
 }
 
 std::shared_ptr<LedgerParams> RecordingPlatform::CreateLedgerParams()
 {
     objEvents->Add("new LedgerParams");
-    return std::make_shared<RecordingLedgerParams>(objEvents);
+    return std::make_shared<RecordingLedgerParams>(objEvents, objAnswers);
 }
 
 std::shared_ptr<MachineInfo> RecordingPlatform::CreateMachineInfo()
@@ -207,18 +278,30 @@ std::shared_ptr<ClientNumber> RecordingPlatform::CreateClientNumber()
 
 std::shared_ptr<SettingsStore> RecordingPlatform::CreateSettingsStore()
 {
-    throw Error("This host has no settings.");
+    return std::make_shared<RecordingSettings>(objEvents, objAnswers);
 }
 
 std::shared_ptr<XmlDocument> RecordingPlatform::CreateXmlDocument()
 {
-    throw Error("This host has no XML.");
+    objEvents->Add("new XmlDocument");
+    return MakeRecordingXml(objEvents);
+}
+
+std::shared_ptr<FormHost> RecordingPlatform::CreateFormHost()
+{
+    objEvents->Add("new FormHost");
+    return std::make_shared<RecordingForms>(objEvents, objAnswers);
 }
 
 Guid RecordingPlatform::CreateGuid()
 {
     objEvents->Add("CreateGuid");
     return objAnswers->guid;
+}
+
+void RecordingPlatform::Beep()
+{
+    objEvents->Add("Beep");
 }
 
 std::shared_ptr<LateBound> RecordingPlatform::CreateObject(const std::string& name)

@@ -29,7 +29,7 @@ class RecordingAuthService : public AuthService {
     std::shared_ptr<HostAnswers> objAnswers;
 };
 
-// Writes "new Connection #1", "new ResourceObject" and so on. Has no settings and no XML.
+// Writes "new Connection #1", "new ResourceObject" and so on.
 class RecordingPlatform : public Platform {
   public:
     RecordingPlatform(std::shared_ptr<EventLog> events, std::shared_ptr<ConnectionScript> script,
@@ -48,7 +48,9 @@ class RecordingPlatform : public Platform {
     std::shared_ptr<ClientNumber> CreateClientNumber() override;
     std::shared_ptr<SettingsStore> CreateSettingsStore() override;
     std::shared_ptr<XmlDocument> CreateXmlDocument() override;
+    std::shared_ptr<FormHost> CreateFormHost() override;
     Guid CreateGuid() override;
+    void Beep() override;
     std::shared_ptr<LateBound> CreateObject(const std::string& name) override;
 
   private:

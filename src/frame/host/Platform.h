@@ -5,6 +5,7 @@
 #pragma once
 
 #include "frame/Connection.h"
+#include "frame/host/Form.h"
 #include "frame/host/HostObject.h"
 #include "frame/host/LoginContext.h"
 #include "frame/host/SuiteObjects.h"
@@ -30,8 +31,12 @@ class Platform {
     virtual std::shared_ptr<ClientNumber> CreateClientNumber() = 0;
     virtual std::shared_ptr<SettingsStore> CreateSettingsStore() = 0;
     virtual std::shared_ptr<XmlDocument> CreateXmlDocument() = 0;
+    virtual std::shared_ptr<FormHost> CreateFormHost() = 0;
 
     virtual Guid CreateGuid() = 0;
+
+    // The sound that goes with a message to the user; nothing where there is none.
+    virtual void Beep() = 0;
 
     // An object of the suite by its name, such as "Corvane.clsUniVch". Throws Error if there is none.
     virtual std::shared_ptr<LateBound> CreateObject(const std::string& name) = 0;

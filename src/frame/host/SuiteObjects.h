@@ -27,6 +27,9 @@ class ResourceObject : public virtual HostObject {
     // The other way round: the code of a shown text. A text that is none is its own code.
     virtual std::string GetEnumCode(const std::string& type, const std::string& text) = 0;
     virtual void ShowMessage(const std::string& text, int icon) = 0;
+
+    // A form that took its texts from here has closed.
+    virtual void Unload() = 0;
 };
 
 class LedgerLogin : public virtual HostObject {
@@ -42,7 +45,11 @@ class LedgerLogin : public virtual HostObject {
 // Options of one accounting year.
 class LedgerParams : public virtual HostObject {
   public:
+    virtual std::string Year() = 0;        // whose options these are; "" before any were filled in
     virtual std::string ValueStyle() = 0;  // as the account parameter cValueStyle
+
+    // Stands in front of the name of the inventory table where a report joins it; may be empty.
+    virtual std::string InventoryQualifier() = 0;
 };
 
 class LedgerPub : public virtual HostObject {
@@ -53,7 +60,8 @@ class LedgerPub : public virtual HostObject {
     // First and last month of an accounting year.
     virtual std::pair<int, int> GetYearMonthRange(const std::string& year, Connection& account) = 0;
 
-    virtual std::vector<std::string> GetAccountYears(Connection& account) = 0;
+    // The accounting years of the account of a login of that year, in order.
+    virtual std::vector<std::string> GetAccountYears(const std::string& year, Connection& account) = 0;
 
     // Fills `params` with the options of the year.
     virtual void GetAccountYearParams(LedgerLogin& login, const std::string& year, LedgerParams& params) = 0;
@@ -84,7 +92,8 @@ class SettingsStore : public virtual HostObject {
 class XmlNode : public virtual HostObject {
   public:
     virtual std::string nodeName() = 0;
-    virtual std::string text() = 0;                           // of the node and all below it
+    // Of the node and all below it, without the white space at both ends.
+    virtual std::string text() = 0;
     virtual Value getAttribute(const std::string& name) = 0;  // null if there is none
     virtual std::vector<std::shared_ptr<XmlNode>> childNodes() = 0;
 };

@@ -14,6 +14,9 @@ namespace kavelin::host {
 // Throws UsageError for a name that is no column of it, with those that are.
 std::unique_ptr<Recordset> ChooseColumns(Recordset& rows, std::span<const std::string> names);
 
+// What `rows` have of the names, "R_*_Cost" being the first column that begins and ends so.
+std::vector<std::string> FindColumns(const Recordset& rows, std::span<const std::string> names);
+
 // "A, B,C" as names; empty parts are passed over.
 std::vector<std::string> ColumnNames(const std::string& list);
 

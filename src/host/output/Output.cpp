@@ -4,7 +4,6 @@
 #include "frame/Text.h"
 #include "host/output/OutputCsv.h"
 #include "host/output/OutputJson.h"
-#include "host/output/OutputTable.h"
 
 namespace kavelin::host {
 
@@ -23,7 +22,10 @@ void WriteRows(Recordset& rows, const OutputOptions& options, std::ostream& out)
 {
     switch (options.format) {
         case OutputFormat::Table:
-            WriteTable(rows, {options.limit, options.width, options.colour, false}, out);
+            WriteTable(rows,
+                       {options.limit, options.width, options.colour, options.whole, options.isLine,
+                        options.columns, options.totals, options.marks},
+                       out);
             break;
         case OutputFormat::Csv: WriteCsv(rows, options.limit, out); break;
         case OutputFormat::Json: WriteJson(rows, options.limit, out); break;

@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cmath>
 #include <deque>
 #include <limits>
 #include <string>
@@ -21,15 +22,24 @@ constexpr std::int64_t kHeadRows = 20;
 constexpr std::int64_t kTailRows = 10;
 constexpr std::int64_t kWholeLimit = 1000;  // a limit up to here is shown without a gap
 constexpr std::size_t kNamesLeftOut = 5;    // named of the columns that have no room
+constexpr int kBarGap = 1;                  // blanks before a bar
+constexpr std::string_view kPlain = "\x1b[0m";
 
 using Cells = std::vector<std::string>;
 
+struct Row {
+    Cells cells;
+    bool line;                    // no opening or total
+    std::vector<double> numbers;  // of cells that have a bar; 0 of all others
+};
+
 // The rows to be shown, and how many were read.
 struct Excerpt {
-    std::vector<Cells> head;
-    std::deque<Cells> tail;  // ring of the latest rows
+    std::vector<Row> head;
+    std::deque<Row> tail;  // ring of the latest rows
     std::int64_t count = 0;
     bool more = false;  // the limit left rows unread
+    std::optional<Row> totals;
 };
 
 std::string CellText(const Value& value)
@@ -41,12 +51,50 @@ std::string CellText(const Value& value)
     return Printable(MachineText(value));
 }
 
-Cells ReadCells(const Recordset& rows)
+// Null where nothing marks the column, or the table has no colours.
+const ColumnMark* MarkOf(const std::string& column, const TableOptions& options)
 {
-    Cells cells;
+    if (options.colour)
+        for (const ColumnMark& mark : options.marks)
+            if (EqualsNoCase(mark.column, column))
+                return &mark;
+    return nullptr;
+}
+
+bool HasBar(const ColumnMark* mark)
+{
+    return mark && mark->kind != MarkKind::Class;
+}
+
+Row ReadRow(const Recordset& rows, const TableOptions& options)
+{
+    Row row = {{}, !options.isLine || options.isLine(), {}};
+    for (int field = 0; field < rows.FieldCount(); ++field) {
+        const Value value = rows.Field(field);
+        row.cells.push_back(CellText(value));
+        row.numbers.push_back(
+            HasBar(MarkOf(rows.FieldName(field), options)) && !value.IsNull() ? ToDouble(value) : 0);
+    }
+    return row;
+}
+
+// Null where there is no such field.
+Value TotalOf(const Recordset& totals, const std::string& name)
+{
+    for (int field = 0; field < totals.FieldCount(); ++field)
+        if (EqualsNoCase(totals.FieldName(field), name))
+            return totals.Field(field);
+    return Value::Null();
+}
+
+Row ReadTotals(const Recordset& rows, const TableTotals& totals)
+{
+    Row row = {{}, false, {}};
     for (int field = 0; field < rows.FieldCount(); ++field)
-        cells.push_back(CellText(rows.Field(field)));
-    return cells;
+        row.cells.push_back(CellText(TotalOf(*totals.row, rows.FieldName(field))));
+    if (!row.cells.empty() && row.cells.front().empty())
+        row.cells.front() = totals.heading;
+    return row;
 }
 
 Excerpt ReadExcerpt(Recordset& rows, const TableOptions& options)
@@ -59,14 +107,16 @@ Excerpt ReadExcerpt(Recordset& rows, const TableOptions& options)
     for (; !rows.Eof() && (!limit || excerpt.count < *limit); rows.MoveNext()) {
         ++excerpt.count;
         if (excerpt.count <= headRows) {
-            excerpt.head.push_back(ReadCells(rows));
+            excerpt.head.push_back(ReadRow(rows, options));
             continue;
         }
         if (static_cast<std::int64_t>(excerpt.tail.size()) == kTailRows)
             excerpt.tail.pop_front();
-        excerpt.tail.push_back(ReadCells(rows));
+        excerpt.tail.push_back(ReadRow(rows, options));
     }
     excerpt.more = !rows.Eof();
+    if (options.totals.row && excerpt.count > 0)
+        excerpt.totals = ReadTotals(rows, options.totals);
     return excerpt;
 }
 
@@ -77,23 +127,35 @@ class TableWriter {
     {
         std::vector<ColumnNeed> needs;
         for (int field = 0; field < rows.FieldCount(); ++field) {
-            strNames.push_back(Printable(rows.FieldName(field)));
+            const TableColumn column = ColumnOf(rows.FieldName(field), options);
+            strNames.push_back(Printable(column.name));
+            strHeadings.push_back(Printable(column.heading));
             needs.push_back(Need(field, IsNumberType(rows.FieldType(field)), excerpt));
+            needs.back().whole = column.whole;
+            needs.back().rank = column.rank;
             blnNumbers.push_back(needs.back().number);
+            lstMarks.push_back(MarkOf(column.name, options));
+            dblLargest.push_back(LargestOf(field, excerpt));
         }
         intWidths = FitColumns(needs, options.width);
+        FindRoomForBars(options);
     }
 
     void Write(const Excerpt& excerpt)
     {
-        WriteStyled("\x1b[1m", Line(strNames));
+        WriteStyled("\x1b[1m", Line(strHeadings));
         WriteStyled("\x1b[2m", Rule());
-        for (const Cells& cells : excerpt.head)
-            objOut << Line(cells) << '\n';
-        if (HasGap(excerpt))
+        const Row* before = nullptr;
+        for (const Row& row : excerpt.head)
+            WriteRow(row, before);
+        if (HasGap(excerpt)) {
             WriteStyled("\x1b[2m", Line(Cells(strNames.size(), "…")));
-        for (const Cells& cells : excerpt.tail)
-            objOut << Line(cells) << '\n';
+            before = nullptr;
+        }
+        for (const Row& row : excerpt.tail)
+            WriteRow(row, before);
+        if (excerpt.totals)
+            WriteRow(*excerpt.totals, before);
         if (blnCount)
             WriteStyled("\x1b[2m", CountLine(excerpt));
         if (const std::string text = LeftOutLine(); !text.empty())
@@ -101,14 +163,59 @@ class TableWriter {
     }
 
   private:
+    static TableColumn ColumnOf(const std::string& name, const TableOptions& options)
+    {
+        for (const TableColumn& column : options.columns)
+            if (EqualsNoCase(column.name, name))
+                return column;
+        return {name, name};
+    }
+
+    // `before` is the row above; becomes this one.
+    void WriteRow(const Row& row, const Row*& before)
+    {
+        if (before && before->line != row.line)
+            WriteStyled("\x1b[2m", Rule());
+        before = &row;
+        WriteStyled(row.line ? "" : "\x1b[1m", Line(row.cells, row.line ? &row : nullptr));
+    }
+
+    static double LargestOf(int field, const Excerpt& excerpt)
+    {
+        double largest = 0;
+        for (const Row& row : excerpt.head)
+            largest = std::max(largest, std::abs(row.numbers[field]));
+        for (const Row& row : excerpt.tail)
+            largest = std::max(largest, std::abs(row.numbers[field]));
+        return largest;
+    }
+
+    // Bars stand only where there is room left, that of the first mark first.
+    void FindRoomForBars(const TableOptions& options)
+    {
+        blnBars.resize(intWidths.size());
+        int used = 0;
+        for (const int column : intWidths)
+            used += column == 0 ? 0 : column + (used == 0 ? 0 : kColumnGap);
+        for (const ColumnMark& mark : options.marks)
+            for (std::size_t field = 0; field < lstMarks.size(); ++field) {
+                if (lstMarks[field] != &mark || !HasBar(&mark) || intWidths[field] == 0)
+                    continue;
+                blnBars[field] = options.width == 0 || used + kBarGap + kBarWidth <= options.width;
+                used += blnBars[field] ? kBarGap + kBarWidth : 0;
+            }
+    }
+
     ColumnNeed Need(int field, bool number, const Excerpt& excerpt) const
     {
         int cells = 1;
-        for (const Cells& row : excerpt.head)
-            cells = std::max(cells, DisplayWidth(row[field]));
-        for (const Cells& row : excerpt.tail)
-            cells = std::max(cells, DisplayWidth(row[field]));
-        return {DisplayWidth(strNames[field]), cells, number};
+        for (const Row& row : excerpt.head)
+            cells = std::max(cells, DisplayWidth(row.cells[field]));
+        for (const Row& row : excerpt.tail)
+            cells = std::max(cells, DisplayWidth(row.cells[field]));
+        if (excerpt.totals)
+            cells = std::max(cells, DisplayWidth(excerpt.totals->cells[field]));
+        return {DisplayWidth(strHeadings[field]), cells, number};
     }
 
     static bool HasGap(const Excerpt& excerpt)
@@ -116,7 +223,8 @@ class TableWriter {
         return excerpt.count > static_cast<std::int64_t>(excerpt.head.size() + excerpt.tail.size());
     }
 
-    std::string Line(const Cells& cells) const
+    // `row` is the line whose cells these are, or null. `filler` stands where a line has a bar.
+    std::string Line(const Cells& cells, const Row* row = nullptr, std::string_view filler = " ") const
     {
         std::string line;
         for (std::size_t field = 0; field < cells.size(); ++field) {
@@ -126,10 +234,33 @@ class TableWriter {
                 line.append(kColumnGap, ' ');
             const std::string text = CutToWidth(cells[field], intWidths[field]);
             const std::string blanks(intWidths[field] - DisplayWidth(text), ' ');
-            line += blnNumbers[field] ? blanks + text : text + blanks;
+            const std::string shown = row ? Coloured(field, text, *row) : text;
+            line += blnNumbers[field] ? blanks + shown : shown + blanks;
+            if (!blnBars[field])
+                continue;
+            if (row && row->numbers[field] != 0)
+                line += BarIn(field, row->numbers[field]);
+            else
+                for (int column = 0; column < kBarGap + kBarWidth; ++column)
+                    line += filler;
         }
         line.erase(line.find_last_not_of(' ') + 1);
         return line;
+    }
+
+    std::string Coloured(std::size_t field, const std::string& text, const Row& row) const
+    {
+        const ColumnMark* mark = lstMarks[field];
+        const std::string_view colour = mark ? CellColour(mark->kind, text, row.numbers[field]) : "";
+        return colour.empty() ? text : std::string(colour) + text + std::string(kPlain);
+    }
+
+    std::string BarIn(std::size_t field, double number) const
+    {
+        const std::string bar = Bar(number, dblLargest[field]);
+        const std::size_t end = bar.find_last_not_of(' ') + 1;
+        return std::string(kBarGap, ' ') + std::string(BarColour(lstMarks[field]->kind, number)) +
+               bar.substr(0, end) + std::string(kPlain) + bar.substr(end);
     }
 
     std::string Rule() const
@@ -141,7 +272,7 @@ class TableWriter {
                 rule += "─";
             rules.push_back(std::move(rule));
         }
-        return Line(rules);
+        return Line(rules, nullptr, "─");
     }
 
     static std::string CountLine(const Excerpt& excerpt)
@@ -173,8 +304,8 @@ class TableWriter {
 
     void WriteStyled(std::string_view style, const std::string& line)
     {
-        if (blnColour)
-            objOut << style << line << "\x1b[0m\n";
+        if (blnColour && !style.empty())
+            objOut << style << line << kPlain << '\n';
         else
             objOut << line << '\n';
     }
@@ -183,8 +314,12 @@ class TableWriter {
     bool blnCount = true;
     std::ostream& objOut;
     Cells strNames;
+    Cells strHeadings;
     std::vector<bool> blnNumbers;
     std::vector<int> intWidths;
+    std::vector<const ColumnMark*> lstMarks;  // by column; null for none
+    std::vector<bool> blnBars;
+    std::vector<double> dblLargest;  // that a bar of the column shows
 };
 
 }  // namespace

@@ -15,7 +15,7 @@ int Natural(const ColumnNeed& need)
 int Least(const ColumnNeed& need)
 {
     const int least = std::min(kLeastColumn, Natural(need));
-    return need.number ? std::max(need.content, least) : least;
+    return need.number || need.whole ? std::max(need.content, least) : least;
 }
 
 // Wide enough for every cell, if not for the heading of a text.
@@ -34,6 +34,18 @@ int TotalWidth(const std::vector<int>& widths)
     return total;
 }
 
+// Takes the first name away. Gives whether there was one.
+bool LeaveOutName(std::vector<int>& widths, const std::vector<ColumnNeed>& needs)
+{
+    for (std::size_t column = 0; column < widths.size(); ++column) {
+        if (widths[column] > 0 && needs[column].rank == kName) {
+            widths[column] = 0;
+            return true;
+        }
+    }
+    return false;
+}
+
 // Takes the middle one of the columns that are left away. Gives whether there was one beside the first.
 bool LeaveOutMiddle(std::vector<int>& widths)
 {
@@ -45,6 +57,22 @@ bool LeaveOutMiddle(std::vector<int>& widths)
         return false;
     widths[left[left.size() / 2]] = 0;
     return true;
+}
+
+// Leaves out rank after rank, but no names, until the others fit with every cell whole.
+void LeaveOutRanks(std::vector<int>& widths, const std::vector<ColumnNeed>& needs, int width)
+{
+    while (TotalWidth(widths) > width) {
+        int rank = kName;
+        for (std::size_t column = 0; column < widths.size(); ++column)
+            if (widths[column] > 0)
+                rank = std::max(rank, needs[column].rank);
+        if (rank == kName)
+            return;
+        for (std::size_t column = 0; column < widths.size(); ++column)
+            if (needs[column].rank == rank)
+                widths[column] = 0;
+    }
 }
 
 // Narrows the widest column again and again, none below its bound, until all fit or none may shrink.
@@ -74,7 +102,11 @@ std::vector<int> FitColumns(const std::vector<ColumnNeed>& needs, int width)
     if (width <= 0)
         return widths;
 
-    while (TotalWidth(least) > width && LeaveOutMiddle(least))
+    LeaveOutRanks(withCutHeading, needs, width);
+    for (std::size_t column = 0; column < widths.size(); ++column)
+        if (withCutHeading[column] == 0)
+            least[column] = 0;
+    while (TotalWidth(least) > width && (LeaveOutName(least, needs) || LeaveOutMiddle(least)))
         continue;
     for (std::size_t column = 0; column < widths.size(); ++column)
         if (least[column] == 0)

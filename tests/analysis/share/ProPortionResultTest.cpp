@@ -1,6 +1,6 @@
 // What the capital share computes on a small account. The rows wanted are computed by hand; the sums stand
 // beside each case, the rows in tests/results/capital-share.
-#include "component/Component.h"
+#include "analysis/clsProPortion.h"
 #include "frame/Errors.h"
 #include "support/account/AccountHost.h"
 
@@ -66,10 +66,7 @@ class CapitalShare : public testing::Test {
     void Receipt(const Line& line) { Add(line, true); }
     void Issue(const Line& line) { Add(line, false); }
 
-    void RunReport()
-    {
-        CreateObject("Kavelin.clsProPortion")->Call("GETSQL", {HostObjectPtr(host.EarlyArgument())});
-    }
+    void RunReport() { clsProPortion().GETSQL(*host.EarlyArgument()); }
 
     void ExpectResult(const std::string& name)
     {

@@ -1,7 +1,7 @@
 // Every profile's books reconcile.
 #include "demo/DemoCompany.h"
 #include "demo/NewAccount.h"
-#include "demo/TestFolder.h"
+#include "demo/QueryRows.h"
 #include "demo/check/AccountCheck.h"
 
 #include <gtest/gtest.h>

@@ -36,5 +36,28 @@ TEST(ChooseColumns, RefusesANameThatIsNoColumn)
     }
 }
 
+TEST(FindColumns, TakesTheFirstThatFitsAndPassesOverWhatIsNotThere)
+{
+    FixedRows rows({{"flag", "int"},
+                    {"R_M_UnitCost", "float"},
+                    {"R_M_Cost", "money"},
+                    {"R_Labor_Cost", "money"},
+                    {"R_Cost", "money"}},
+                   {});
+    const struct {
+        const char* list;
+        std::vector<std::string> found;
+    } cases[] = {
+        {"R_*_Cost,FLAG", {"R_M_Cost", "flag"}},
+        {"r_*_unitcost", {"R_M_UnitCost"}},
+        {"*Cost", {"R_M_UnitCost"}},
+        {"R_*", {"R_M_UnitCost"}},
+        {"R_*_Dif,missing,D_*_Cost", {}},
+        {"R_Cost*R_Cost", {}},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(FindColumns(rows, ColumnNames(c.list)), c.found) << c.list;
+}
+
 }  // namespace
 }  // namespace kavelin::host

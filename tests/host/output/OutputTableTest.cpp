@@ -139,10 +139,96 @@ TEST(OutputTable, ColoursOnlyWhenAsked)
               "\x1b[1mn\x1b[0m\n\x1b[2m─\x1b[0m\n1\n\x1b[2m1 row.\x1b[0m\n");
 }
 
+TEST(OutputTable, PartsLinesFromOpeningsAndTotals)
+{
+    FixedRows rows({{"flag", "int"}, {"text", "nvarchar(20)"}},
+                   {{0, "opening"}, {1, "a"}, {1, "b"}, {2, "month"}, {3, "so far"}, {1, "c"}});
+    TableOptions options;
+    options.isLine = [&] { return ToInt32(rows.Field(0)) == 1; };
+    EXPECT_EQ(Table(rows, options),
+              "flag  text\n"
+              "────  ───────\n"
+              "   0  opening\n"
+              "────  ───────\n"
+              "   1  a\n"
+              "   1  b\n"
+              "────  ───────\n"
+              "   2  month\n"
+              "   3  so far\n"
+              "────  ───────\n"
+              "   1  c\n"
+              "6 rows.\n");
+
+    options.colour = true;
+    rows.MoveFirst();
+    const auto lines = Lines(Table(rows, options));
+    EXPECT_EQ(lines.at(2), "\x1b[1m   0  opening\x1b[0m");
+    EXPECT_EQ(lines.at(4), "   1  a");
+}
+
 TEST(OutputTable, LetsNoValueSteerTheTerminal)
 {
     FixedRows rows({{"x", "nvarchar(20)"}}, {{"a\x1b[2Jb\nc"}});
     EXPECT_EQ(Lines(Table(rows))[2], "a\uFFFD[2Jb c");
+}
+
+TEST(OutputTable, ShowsHeadingsInThePlaceOfNames)
+{
+    FixedRows rows({{"cInvCode", "nvarchar(20)"}, {"n", "int"}}, {{"A-01", 5}});
+    TableOptions options;
+    options.columns = {{"CINVCODE", "存货"}};
+    EXPECT_EQ(Table(rows, options), "存货  n\n"
+                                    "────  ─\n"
+                                    "A-01  5\n"
+                                    "1 row.\n");
+}
+
+TEST(OutputTable, LeavesOutColumnsByTheirRankAndNamesThemAsTheMachineFormsDo)
+{
+    FixedRows rows({{"a", "nvarchar(20)"}, {"b", "nvarchar(20)"}, {"c", "int"}}, {{"first", "second", 3}});
+    TableOptions options;
+    options.columns = {{"b", "Heading", false, 2}};
+    options.width = 14;
+    EXPECT_EQ(Table(rows, options), "a      c\n"
+                                    "─────  ─\n"
+                                    "first  3\n"
+                                    "1 row.\n"
+                                    "No room for 1 column: b. The csv and json forms show all.\n");
+}
+
+// Whatever order its columns have, and however few rows the limit lets through.
+TEST(OutputTable, SetsTotalsBelowTheColumnsOfTheirNames)
+{
+    FixedRows rows({{"code", "nvarchar(20)"}, {"name", "nvarchar(20)"}, {"n", "int"}, {"m", "decimal(9,2)"}},
+                   {{"A", "x", 1, Dec("0.50")}, {"B", "y", 2, Dec("0.25")}});
+    FixedRows totals({{"M", "decimal(38,2)"}, {"n", "int"}, {"other", "int"}}, {{Dec("1234.75"), 3, 9}});
+    TableOptions options;
+    options.totals = {&totals, "Total"};
+    options.limit = 1;
+    EXPECT_EQ(Table(rows, options), "code   name  n         m\n"
+                                    "─────  ────  ─  ────────\n"
+                                    "A      x     1      0.50\n"
+                                    "─────  ────  ─  ────────\n"
+                                    "Total        3  1,234.75\n"
+                                    "The first 1 row. There are more.\n");
+}
+
+TEST(OutputTable, ShowsNoTotalsOfNoRows)
+{
+    FixedRows rows({{"n", "int"}}, {});
+    FixedRows totals({{"n", "int"}}, {{Value::Null()}});
+    TableOptions options;
+    options.totals = {&totals, "Total"};
+    EXPECT_EQ(Table(rows, options), "n\n─\nNo rows.\n");
+}
+
+TEST(OutputTable, KeepsATotalOfTheFirstColumn)
+{
+    FixedRows rows({{"n", "int"}}, {{1}, {2}});
+    FixedRows totals({{"n", "int"}}, {{3}});
+    TableOptions options;
+    options.totals = {&totals, "Total"};
+    EXPECT_EQ(Table(rows, options), "n\n─\n1\n2\n─\n3\n2 rows.\n");
 }
 
 }  // namespace

@@ -45,5 +45,31 @@ TEST(FitColumns, LeavesOutFromTheMiddleAndNeverTheFirst)
     EXPECT_EQ(FitColumns(needs, 3), (Widths{6, 0, 0, 0}));
 }
 
+TEST(FitColumns, CutsNoCodeThatIsToStayWhole)
+{
+    EXPECT_EQ(FitColumns({{4, 10, false, true}, {4, 30, false}}, 24), (Widths{10, 12}));
+    EXPECT_EQ(FitColumns({{20, 10, false, true}, {4, 30, false}}, 20), (Widths{10, 8}));
+}
+
+TEST(FitColumns, LeavesOutRanksWhereACellWouldBeCutForThem)
+{
+    const std::vector<ColumnNeed> needs = {
+        {4, 8, false}, {4, 8, true, false, 2}, {4, 8, true}, {4, 8, true, false, 2}, {4, 8, false, false, 3}};
+    EXPECT_EQ(FitColumns(needs, 48), (Widths{8, 8, 8, 8, 8}));
+    EXPECT_EQ(FitColumns(needs, 47), (Widths{8, 8, 8, 8, 0}));
+    EXPECT_EQ(FitColumns(needs, 37), (Widths{8, 0, 8, 0, 0})) << "all of a rank together";
+    EXPECT_EQ(FitColumns(needs, 17), (Widths{7, 0, 8, 0, 0}));
+}
+
+TEST(FitColumns, LeavesOutNamesFromTheLeftBeforeOtherColumns)
+{
+    const std::vector<ColumnNeed> needs = {
+        {4, 8, false}, {4, 8, false, false, kName}, {4, 8, false}, {4, 8, false, false, kName}, {4, 8, true}};
+    EXPECT_EQ(FitColumns(needs, 40), (Widths{6, 6, 6, 6, 8})) << "names are cut first";
+    EXPECT_EQ(FitColumns(needs, 37), (Widths{7, 0, 8, 8, 8}));
+    EXPECT_EQ(FitColumns(needs, 31), (Widths{8, 0, 8, 0, 8}));
+    EXPECT_EQ(FitColumns(needs, 20), (Widths{8, 0, 0, 0, 8}));
+}
+
 }  // namespace
 }  // namespace kavelin::host

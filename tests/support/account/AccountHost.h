@@ -20,6 +20,9 @@ class AccountHost : public RecordingHost {
     // Runs T-SQL on the account, outside of what is recorded.
     void Run(const std::string& sql);
 
+    // The connection of the two around, open.
+    Connection& Outside() { return *cnnOutside; }
+
     // Whether the account database has a table of that name.
     bool HasTable(const std::string& name);
 

@@ -148,3 +148,13 @@ create table ComputationUnit (
 )
 
 create index IX_ComputationUnit_Group on ComputationUnit (cGroupCode, iNumber)
+
+-- Values that users choose from, for free items and user fields with a list.
+create table Demo_FieldValue (
+    -- the field: 20, 21, 28 to 35 are free items 1 to 10; 17 to 19, 52 to 58 user fields 1 to 10 of items;
+    -- 1 to 3, 8 to 10, 36 to 39 user fields 1 to 3, 8 to 14 of documents; 22 to 25, 42 to 47 user fields 22 to 25,
+    -- 28 to 33 of their lines
+    cID    int           not null,
+    cValue nvarchar(120) not null,
+    primary key (cID, cValue)
+)

@@ -1,0 +1,23 @@
+-- Values of the first free item, of user fields 1 to 4 of the items, and of user fields 1 and 22 of documents.
+insert into Demo_FieldValue (cID, cValue) values
+(20, N'红'),
+(20, N'灰'),
+(20, N'蓝'),
+(17, N'本厂'),
+(17, N'外购'),
+(18, N'12个月'),
+(19, N'一般'),
+(19, N'易燃'),
+(19, N'贵重'),
+(52, N'陈建国'),
+(52, N'李秀英'),
+(1, N'加急'),
+(1, N'常规'),
+(1, N'合同附件'),
+(1, N'代垫运费'),
+(1, N'Priority'),
+(22, N'A级'),
+(22, N'B级'),
+(22, N'免检'),
+(22, N'抽检'),
+(22, N'Sample')

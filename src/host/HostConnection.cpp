@@ -124,6 +124,13 @@ ConnectionSource::ConnectionSource(StatementObservers observers, std::shared_ptr
 {
 }
 
+ConnectionSource ConnectionSource::With(std::shared_ptr<StatementObserver> observer) const
+{
+    ConnectionSource more = *this;
+    more.lstObservers.push_back(std::move(observer));
+    return more;
+}
+
 std::shared_ptr<Connection> ConnectionSource::Create(const std::string& purpose) const
 {
     static std::atomic<int> count = 0;

@@ -33,6 +33,9 @@ class ConnectionSource {
                               std::shared_ptr<Cancellation> cancellation = nullptr,
                               Maker maker = CreateConnection);
 
+    // The same with one more observer.
+    ConnectionSource With(std::shared_ptr<StatementObserver> observer) const;
+
     // Not open yet. `purpose` begins its name in the log: "report 3".
     std::shared_ptr<Connection> Create(const std::string& purpose) const;
 

@@ -47,7 +47,7 @@ std::string SubjectOf(const HostFilter& filter, LoginContext& login)
 }  // namespace
 
 ReportRun::ReportRun(AccountLogin login, ConnectionSource connections, MessageSink onMessage)
-    : objSession(std::move(login), std::move(connections), std::move(onMessage))
+    : objSession(std::move(login), connections.With(objFailed), std::move(onMessage))
 {
 }
 
@@ -96,6 +96,7 @@ void ReportRun::DrawAgain(LateBound& report, const std::string& action)
         std::rethrow_exception(failure);
     if (!drawn)
         throw Error("The command " + action + " doesn't draw the report again.");
+    ExpectWholeResult();
 }
 
 void ReportRun::OpenRow(LateBound& report, std::int64_t row, const std::string& action)
@@ -143,12 +144,24 @@ void ReportRun::Run(const Report& report, const FilterInput& input, const Afterw
         if (objDraw)
             objDraw();
     });
+    objFailed->Forget();  // what a dialog's lookups could not read is none of the report's
     const std::shared_ptr<LateBound> object = MakeResult(report, dialog.Filter());
-    if (!TableExists(Account(), strTable))
-        throw ReportError(Messages().empty() ? "The report failed without a message and left no result."
-                                             : "The report failed: " + Messages().back().text);
+    ExpectWholeResult();
     afterwards(*object);
     objCall.reset();
+}
+
+void ReportRun::ExpectWholeResult()
+{
+    const std::optional<std::string> failed = objFailed->First();
+    const bool told = !Messages().empty();
+    if (TableExists(Account(), strTable) && (told || !failed))
+        return;
+    if (told)
+        throw ReportError("The report failed: " + Messages().back().text);
+    if (failed)
+        throw ReportError("The report failed: " + *failed);
+    throw ReportError("The report failed without a message and left no result.");
 }
 
 std::unique_ptr<Recordset> ReportRun::OpenResult()

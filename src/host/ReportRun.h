@@ -2,6 +2,7 @@
 #pragma once
 
 #include "frame/Connection.h"
+#include "host/FailedStatements.h"
 #include "host/FilterInput.h"
 #include "host/HostCallArgs.h"
 #include "host/HostFilter.h"
@@ -77,6 +78,11 @@ class ReportRun {
     void DrawAgain(LateBound& report, const std::string& action);
     void DropResultQuiet() noexcept;  // also after a cancelled run
 
+    // Throws ReportError where the result is missing, or a statement failed of which nobody was told: the figures
+    // would not be whole.
+    void ExpectWholeResult();
+
+    std::shared_ptr<FailedStatements> objFailed = std::make_shared<FailedStatements>();
     Session objSession;
     const Report* objReport = nullptr;
     std::string strTable;

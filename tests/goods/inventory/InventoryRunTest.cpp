@@ -45,7 +45,7 @@ std::string CostColumnsShown(const char* costItem, const char* method)
     RecordingHost host;
     Prepare(host, OfItem(costItem), kYearWhere, method);
     ClsFCInventory().GETSQL(*host.EarlyArgument());
-    const std::string& result = Texts(host).back();
+    const std::string result = Texts(host).back();
     const std::string begin = "ia_ensubsidiary.ipzid,\r\n";
     const std::size_t from = result.find(begin) + begin.size();
     return result.substr(from, result.find("a.iSrcID,a.cSRcVoutype") - from);

@@ -25,13 +25,6 @@ constexpr ClassKey kClassKeys[] = {
     {"incluc", &AbcConditions::blnIncludeC},
 };
 
-// "7月" is month 7.
-std::string MonthIn(const std::string& value)
-{
-    const std::size_t length = Length(value);
-    return std::string(Trim(Left(value, length == 0 ? 0 : length - 1)));
-}
-
 void TakeYear(ReportFilterObject& filter, std::string year, bool fromDialog, AbcConditions& conditions)
 {
     const std::string loginYear = ModPub().gobjLogin->Year();
@@ -48,7 +41,7 @@ void TakeItem(ReportFilterObject& filter, FilterItem& item, bool fromDialog, Abc
     const std::string name = ToLower(item.Name());
     const std::string value = FilterText(item.varValue());
     if (name == "iperiod") {
-        conditions.strPeriod = fromDialog ? MonthIn(value) : std::to_string(ModPub().gobjLogin->Month());
+        conditions.strPeriod = fromDialog ? MonthDigits(value) : std::to_string(ModPub().gobjLogin->Month());
         return;
     }
     if (name == "iyear") {
@@ -57,7 +50,7 @@ void TakeItem(ReportFilterObject& filter, FilterItem& item, bool fromDialog, Abc
     }
     for (const ClassKey& classKey : kClassKeys)
         if (name == classKey.key) {
-            conditions.*classKey.included = value == "是";
+            conditions.*classKey.included = value == kYes;
             return;
         }
     item.SetLngGrouptoken(kLeftToTheService);

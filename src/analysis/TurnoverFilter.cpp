@@ -97,9 +97,9 @@ bool TakeGroup(const std::string& name, const std::string& value, TurnoverGroups
     for (const GroupKey& group : kGroupKeys) {
         if (name != group.key)
             continue;
-        if (value == "是")
+        if (value == kYes)
             groups.*group.flag = true;
-        else if (value == "否")
+        else if (value == kNo)
             groups.*group.flag = false;
         return true;
     }

@@ -44,9 +44,9 @@ void PrepareFields(OpenDialog dialog, KeyMatch match, const std::vector<OpeningF
     });
 }
 
-OpeningStep Default(std::string value)
+OpeningStep Default(std::string_view value)
 {
-    return [value = std::move(value)](OpenDialog&, FilterItem& item) {
+    return [value = std::string(value)](OpenDialog&, FilterItem& item) {
         if (IsEmpty(item))
             item.SetvarValue(value);
     };

@@ -13,10 +13,6 @@
 
 namespace kavelin {
 
-// Yes and no as the filter keeps them, whatever the dialog shows.
-constexpr const char* kYes = "是";
-constexpr const char* kNo = "否";
-
 struct OpenDialog {
     ReportFilterObject& filter;
     DialogState& state;
@@ -36,7 +32,7 @@ void PrepareFields(OpenDialog dialog, KeyMatch match, const std::vector<OpeningF
 // --- values, locks, flags ---
 
 // Gives an empty field the value.
-OpeningStep Default(std::string value);
+OpeningStep Default(std::string_view value);
 // Gives an empty field the text of an enumeration's code.
 OpeningStep DefaultText(std::string enumType, std::string code);
 OpeningStep SetValue(std::string value);

@@ -2,6 +2,7 @@
 
 #include "filter/CostingBasis.h"
 #include "filter/OpeningSteps.h"
+#include "frame/FilterWalk.h"
 #include "frame/Guards.h"
 #include "frame/ModPub.h"
 

@@ -90,11 +90,11 @@ void LockEachOther(ReportFilterObject& flt, const std::string& first, const std:
     });
 }
 
-void Exclude(ReportFilterObject& flt, FilterItem& item, const char* other)
+void Exclude(ReportFilterObject& flt, FilterItem& item, const std::string& other)
 {
     if (FilterText(item.varValue()) != kYes)
         return;
-    flt.SetFieldValue(other, kNo);
+    flt.SetFieldValue(other, std::string(kNo));
     flt.SetFieldLocked(other, true);
 }
 

@@ -23,12 +23,6 @@ struct Clauses {
     std::string inventory;  // the one chosen
 };
 
-// The digits of "7月".
-std::string MonthDigits(const std::string& text)
-{
-    return text.empty() ? "" : std::string(Trim(Left(text, Length(text) - 1)));
-}
-
 // The second quote of a pair is a plain one.
 std::string Months(const std::string& column, const std::string& from, const std::string& to)
 {

@@ -1,6 +1,7 @@
 #include "host/FilterInput.h"
 
 #include "frame/Decimal.h"
+#include "frame/FilterWalk.h"
 #include "frame/Text.h"
 #include "host/FieldValues.h"
 #include "host/HostErrors.h"

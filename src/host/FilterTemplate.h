@@ -104,8 +104,4 @@ FilterTemplate ParseFilterTemplate(std::string_view report, std::string_view jso
 // The template of a report by its command name. Throws Error if the host has none.
 const FilterTemplate& TemplateOf(std::string_view report);
 
-// True and false as a flag field takes them: 是 and 否 are what the reports compare.
-inline constexpr std::string_view kYes = "是";
-inline constexpr std::string_view kNo = "否";
-
 }  // namespace kavelin::host

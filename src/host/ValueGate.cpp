@@ -1,6 +1,7 @@
 #include "host/ValueGate.h"
 
 #include "frame/Decimal.h"
+#include "frame/FilterWalk.h"
 #include "frame/Text.h"
 #include "frame/Value.h"
 #include "host/FieldValues.h"

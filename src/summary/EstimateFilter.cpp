@@ -16,7 +16,6 @@ constexpr std::int32_t kHandledHere = 0;
 constexpr std::int32_t kLeftToTheFilter = 1;
 constexpr std::int32_t kVoucherTypes = 2;
 
-constexpr std::string_view kYes = "是";
 constexpr std::string_view kConsigned = "受托代销";
 
 struct Edition {
@@ -32,13 +31,6 @@ constexpr std::string_view kCommercialTypes[] = {"普通采购", "一般贸易�
 constexpr Edition kIndustrial = {"N'普通采购',N'委外加工',N'一般贸易进口',N'进料加工'", false,
                                  kIndustrialTypes};
 constexpr Edition kCommercial = {"N'普通采购',N'一般贸易进口',N'进料加工'", true, kCommercialTypes};
-
-// The unit behind the month's number is one character.
-std::string WithoutUnit(const std::string& month)
-{
-    const std::size_t length = Length(month);
-    return std::string(Trim(Left(month, length == 0 ? 0 : length - 1)));
-}
 
 void ReadBusTypes(const std::string& chosen, EstimateConditions& conditions)
 {
@@ -70,7 +62,7 @@ void TakeItem(FilterItem& item, EstimateConditions& conditions)
         item.SetLngGrouptoken(kVoucherTypes);
     } else if (named("ia_subsidiary.imonth")) {
         item.SetLngGrouptoken(kHandledHere);
-        conditions.strMonth = WithoutUnit(value());
+        conditions.strMonth = MonthDigits(value());
     } else if (named("ia_subsidiary.cbustype")) {
         item.SetLngGrouptoken(kHandledHere);
         ReadBusTypes(value(), conditions);

@@ -134,7 +134,7 @@ void TakeComparison(FilterItem& item, SumConditions& conditions)
 
 void TakeFreeItems(FilterItem& item, SumConditions& conditions)
 {
-    conditions.bytFree = FilterText(item.varValue()) == "是" ? 1 : 0;
+    conditions.bytFree = FilterText(item.varValue()) == kYes ? 1 : 0;
 }
 
 // Any other key is a column, compared as text. A value in the second box alone is an equality with the empty

@@ -221,6 +221,17 @@ void ForEachExpression(BoundQuery& query, const Visit& visit)
         one(order.expression);
 }
 
+void AddConjuncts(const BoundExpr& condition, std::vector<const BoundExpr*>& conjuncts)
+{
+    const auto* both = std::get_if<BoundLogical>(&condition.node);
+    if (!both || both->op != LogicalOp::And) {
+        conjuncts.push_back(&condition);
+        return;
+    }
+    AddConjuncts(*both->left, conjuncts);
+    AddConjuncts(*both->right, conjuncts);
+}
+
 bool SameExpression(const BoundExpr& a, const BoundExpr& b)
 {
     return a.type == b.type && std::visit(Same{}, a.node, b.node);

@@ -62,17 +62,6 @@ class Reader {
     std::set<int> setLeft, setRight;
 };
 
-void AddConjuncts(const BoundExpr& condition, std::vector<const BoundExpr*>& conjuncts)
-{
-    const auto* both = std::get_if<BoundLogical>(&condition.node);
-    if (!both || both->op != LogicalOp::And) {
-        conjuncts.push_back(&condition);
-        return;
-    }
-    AddConjuncts(*both->left, conjuncts);
-    AddConjuncts(*both->right, conjuncts);
-}
-
 // The comparison of a value of each side; else null.
 const BoundComparison* SidesCompared(const BoundExpr& condition, const Reader& reader)
 {

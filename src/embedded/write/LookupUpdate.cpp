@@ -48,17 +48,6 @@ class Reader {
     std::vector<std::string> lstColumns;  // of the lookup, in the order in which they were met
 };
 
-void AddConjuncts(const BoundExpr& condition, std::vector<const BoundExpr*>& conjuncts)
-{
-    const auto* both = std::get_if<BoundLogical>(&condition.node);
-    if (!both || both->op != LogicalOp::And) {
-        conjuncts.push_back(&condition);
-        return;
-    }
-    AddConjuncts(*both->left, conjuncts);
-    AddConjuncts(*both->right, conjuncts);
-}
-
 // The side of the equality that is a column of the lookup, where the other side is a value of the target that needs
 // no conversion to be compared with it; else null.
 const BoundExpr* KeyOf(const BoundExpr& condition, Reader& reader)

@@ -46,6 +46,14 @@ struct ObjectInfo {
     std::vector<std::string> primaryKey = {};  // of a table in memory; one in the file has it there
 };
 
+// The table for which a connection brings the identity numbers of what it inserts.
+struct IdentityInsert {
+    Database database = Database::Account;
+    std::string name;
+
+    bool operator==(const IdentityInsert&) const = default;
+};
+
 class Catalog {
   public:
     virtual ~Catalog() = default;
@@ -58,6 +66,9 @@ class Catalog {
 
     // The language that DBO.UDF_GetLocaleID() answers on this connection, such as zh-CN.
     virtual std::string LocaleId() const = 0;
+
+    // After `set identity_insert T on`; nothing: no table's.
+    virtual std::optional<IdentityInsert> IdentityInsertTable() const { return std::nullopt; }
 };
 
 }  // namespace kavelin::embedded

@@ -43,6 +43,9 @@ struct StatementPlan {
     std::optional<std::vector<ResultColumn>> rows;
     bool countsRows = false;
     std::vector<CatalogChange> changes;
+    // The statement sets for which table the connection brings identity numbers itself; nothing: for none.
+    bool setsIdentityInsert = false;
+    std::optional<IdentityInsert> identityInsert;
 };
 
 // Parses a batch. Throws SqlError.

@@ -7,6 +7,7 @@
 #include "embedded/bind/Facts.h"
 #include "frame/Text.h"
 
+#include <algorithm>
 #include <set>
 #include <string>
 
@@ -14,8 +15,22 @@ namespace kavelin::embedded {
 
 namespace {
 
+bool TakesIdentity(const ObjectInfo& table, const BindContext& context)
+{
+    return context.Objects().IdentityInsertTable() == IdentityInsert{table.database, table.name};
+}
+
+const ColumnInfo* IdentityOf(const ObjectInfo& table)
+{
+    for (const ColumnInfo& column : table.columns)
+        if (column.identity)
+            return &column;
+    return nullptr;
+}
+
 // The columns that the statement gives values for: those of its list, else all but the identity.
-std::vector<ColumnInfo> GivenColumns(const InsertStatement& insert, const ObjectInfo& table)
+std::vector<ColumnInfo> GivenColumns(const InsertStatement& insert, const ObjectInfo& table,
+                                     bool takesIdentity)
 {
     std::vector<ColumnInfo> given;
     if (insert.columns.empty()) {
@@ -37,7 +52,7 @@ std::vector<ColumnInfo> GivenColumns(const InsertStatement& insert, const Object
                                "column cannot be assigned more than one value in the same clause. Modify the "
                                "clause to make sure that a column is updated only once.",
                            name.place);
-        if (table.columns[*position].identity)
+        if (table.columns[*position].identity && !takesIdentity)
             throw SqlError(544,
                            "Cannot insert explicit value for identity column in table '" + table.name +
                                "' when IDENTITY_INSERT is set to OFF.",
@@ -147,16 +162,24 @@ std::vector<TextFacts> FactsOfValues(const BoundInsert& bound)
 BoundInsert BindInsert(const InsertStatement& insert, BindContext& context)
 {
     const ObjectInfo& table = NeedTable(insert.target, context);
-    const std::vector<ColumnInfo> given = GivenColumns(insert, table);
+    const bool takesIdentity = TakesIdentity(table, context);
+    const std::vector<ColumnInfo> given = GivenColumns(insert, table, takesIdentity);
+    const auto isIdentity = [](const ColumnInfo& column) { return column.identity; };
+    if (takesIdentity && std::none_of(given.begin(), given.end(), isIdentity))
+        throw SqlError(
+            545,
+            "Explicit value must be specified for identity column in table '" + table.name +
+                "' either when IDENTITY_INSERT is set to ON or when a replication user is inserting "
+                "into a NOT FOR REPLICATION identity column.",
+            insert.target.place);
     const std::vector<ColumnInfo> lacking = LackingColumns(table, given);
     BoundInsert bound;
     bound.duckName = table.duckName;
     for (const std::vector<ColumnInfo>* columns : {&given, &lacking})
         for (const ColumnInfo& column : *columns)
             bound.columns.push_back(column.name);
-    for (const ColumnInfo& column : table.columns)
-        if (column.identity)
-            bound.identityColumn = column.name;
+    if (const ColumnInfo* identity = IdentityOf(table); identity != nullptr && !takesIdentity)
+        bound.identityColumn = identity->name;
 
     if (insert.query)
         BindInsertQuery(insert, given, lacking, bound, context);
@@ -168,6 +191,24 @@ BoundInsert BindInsert(const InsertStatement& insert, BindContext& context)
     for (std::size_t i = 0; i < bound.columns.size(); ++i)
         lost.Store(bound.columns[i], facts[i]);
     bound.weakened = std::move(lost).Weakened();
+    return bound;
+}
+
+BoundIdentityInsert BindIdentityInsert(const IdentityInsertStatement& set, BindContext& context)
+{
+    const ObjectInfo& table = NeedTable(set.table, context);
+    if (IdentityOf(table) == nullptr)
+        throw SqlError(
+            8106,
+            "Table '" + table.name + "' does not have the identity property. Cannot perform SET operation.",
+            set.table.place);
+    const BoundIdentityInsert bound{{table.database, table.name}, set.on};
+    const std::optional<IdentityInsert> before = context.Objects().IdentityInsertTable();
+    if (set.on && before && before != bound.table)
+        throw SqlError(8107,
+                       "IDENTITY_INSERT is already ON for table '" + before->name +
+                           "'. Cannot perform SET operation for table '" + table.name + "'.",
+                       set.table.place);
     return bound;
 }
 

@@ -36,6 +36,10 @@ struct StatementBinder {
     }
     BoundStatement operator()(const AddColumnsStatement& node) const { return BindAddColumns(node, context); }
     BoundStatement operator()(const DropStatement& node) const { return BindDrop(node, context); }
+    BoundStatement operator()(const IdentityInsertStatement& node) const
+    {
+        return BindIdentityInsert(node, context);
+    }
     BoundStatement operator()(const IfExistsStatement& node) const
     {
         throw SqlError(156, "IF EXISTS is bound in its parts, not as a whole.", node.then->place);

@@ -122,5 +122,6 @@ BoundCreateIndex BindCreateIndex(const CreateIndexStatement& create, BindContext
 BoundAlterColumn BindAlterColumn(const AlterColumnStatement& alter, BindContext& context);
 BoundAddColumns BindAddColumns(const AddColumnsStatement& add, BindContext& context);
 BoundDrop BindDrop(const DropStatement& drop, BindContext& context);
+BoundIdentityInsert BindIdentityInsert(const IdentityInsertStatement& set, BindContext& context);
 
 }  // namespace kavelin::embedded

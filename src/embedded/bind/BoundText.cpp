@@ -356,6 +356,10 @@ struct StatementText {
             names.push_back(object.duckName);
         return "drop " + Joined(names, ", ");
     }
+    std::string operator()(const BoundIdentityInsert& node) const
+    {
+        return std::string("identity insert ") + (node.on ? "on " : "off ") + node.table.name;
+    }
 };
 
 }  // namespace

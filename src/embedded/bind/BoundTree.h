@@ -290,9 +290,14 @@ struct BoundDrop {
     std::vector<ObjectInfo> objects;
 };
 
+struct BoundIdentityInsert {
+    IdentityInsert table;
+    bool on = false;
+};
+
 using BoundStatement = std::variant<BoundRows, BoundSelectInto, BoundInsert, BoundUpdate, BoundDelete,
                                     BoundCreateTable, BoundCreateView, BoundCreateFunction, BoundCreateIndex,
-                                    BoundAlterColumn, BoundAddColumns, BoundDrop>;
+                                    BoundAlterColumn, BoundAddColumns, BoundDrop, BoundIdentityInsert>;
 
 // The binder's entry. Throws SqlError. `text` is the batch that the tree was made of.
 BoundStatement Bind(const Statement& statement, std::string_view text, const Catalog& catalog);

@@ -46,8 +46,13 @@ bool NeedsTablesInFile(const Statement& statement)
            std::holds_alternative<CreateIndexStatement>(statement.node);
 }
 
-BatchRunner::BatchRunner(Instance& instance, Session& session, ObjectMap& own, std::string locale)
-    : objInstance(instance), objSession(session), dicOwn(own), strLocale(std::move(locale))
+BatchRunner::BatchRunner(Instance& instance, Session& session, ObjectMap& own,
+                         std::optional<IdentityInsert>& identityInsert, std::string locale)
+    : objInstance(instance),
+      objSession(session),
+      dicOwn(own),
+      objIdentityInsert(identityInsert),
+      strLocale(std::move(locale))
 {
 }
 
@@ -136,6 +141,8 @@ void BatchRunner::RunPlan(const StatementPlan& plan, const Catalog& catalog, Kee
     if (transaction)
         transaction->Commit();
     TakeOver(plan.changes);
+    if (plan.setsIdentityInsert)
+        objIdentityInsert = plan.identityInsert;
 
     result.rowsChanged = plan.countsRows && last ? last->RowsChanged() : -1;
     if (plan.rows && last && keep == KeepRows::Yes && !result.rows)
@@ -144,7 +151,7 @@ void BatchRunner::RunPlan(const StatementPlan& plan, const Catalog& catalog, Kee
 
 CatalogView BatchRunner::View(bool intoFile) const
 {
-    return CatalogView(objInstance.Objects().Current(), dicOwn, strLocale, intoFile);
+    return CatalogView(objInstance.Objects().Current(), dicOwn, strLocale, intoFile, objIdentityInsert);
 }
 
 void BatchRunner::TakeOver(const std::vector<CatalogChange>& changes)

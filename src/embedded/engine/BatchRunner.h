@@ -33,8 +33,9 @@ bool NeedsTablesInFile(const Statement& statement);
 
 class BatchRunner {
   public:
-    // All must outlive the runner. `own` are the connection's own tables.
-    BatchRunner(Instance& instance, Session& session, ObjectMap& own, std::string locale);
+    // All must outlive the runner. `own` are the connection's own tables, `identityInsert` is what it set.
+    BatchRunner(Instance& instance, Session& session, ObjectMap& own,
+                std::optional<IdentityInsert>& identityInsert, std::string locale);
 
     // Each statement commits by itself. The batch stops at its first error: DatabaseError, or CancelledError
     // if the session was interrupted.
@@ -51,6 +52,7 @@ class BatchRunner {
     Instance& objInstance;
     Session& objSession;
     ObjectMap& dicOwn;
+    std::optional<IdentityInsert>& objIdentityInsert;
     std::string strLocale;
     std::string strBatch;
 };

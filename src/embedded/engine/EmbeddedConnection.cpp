@@ -21,6 +21,7 @@ struct EmbeddedConnection::Opened {
     std::shared_ptr<Instance> instance;
     Session session;
     ObjectMap own;  // the `#` tables
+    std::optional<IdentityInsert> identityInsert;
     std::string locale;
     std::vector<std::weak_ptr<std::optional<RowSet>>> recordsets;
 
@@ -34,7 +35,7 @@ struct EmbeddedConnection::Opened {
     BatchResult Run(const std::string& sql, KeepRows keep)
     {
         session.Resume();
-        return BatchRunner(*instance, session, own, locale).Run(sql, keep);
+        return BatchRunner(*instance, session, own, identityInsert, locale).Run(sql, keep);
     }
 
     std::unique_ptr<Recordset> Hand(RowSet rows, CursorType type)

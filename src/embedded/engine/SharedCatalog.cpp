@@ -77,8 +77,12 @@ void SharedCatalog::Apply(const std::vector<CatalogChange>& changes)
 }
 
 CatalogView::CatalogView(std::shared_ptr<const SharedCatalog::Snapshot> snapshot, const ObjectMap& own,
-                         std::string locale, bool intoFile)
-    : objSnapshot(std::move(snapshot)), dicOwn(own), strLocale(std::move(locale)), blnIntoFile(intoFile)
+                         std::string locale, bool intoFile, std::optional<IdentityInsert> identityInsert)
+    : objSnapshot(std::move(snapshot)),
+      dicOwn(own),
+      strLocale(std::move(locale)),
+      blnIntoFile(intoFile),
+      objIdentityInsert(std::move(identityInsert))
 {
 }
 

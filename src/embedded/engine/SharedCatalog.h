@@ -12,6 +12,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -48,17 +49,19 @@ class CatalogView : public Catalog {
   public:
     // `own` must outlive the view. With `intoFile` new objects of the account are made in its file at once.
     CatalogView(std::shared_ptr<const SharedCatalog::Snapshot> snapshot, const ObjectMap& own,
-                std::string locale, bool intoFile);
+                std::string locale, bool intoFile, std::optional<IdentityInsert> identityInsert = {});
 
     const ObjectInfo* Find(Database database, std::string_view name) const override;
     std::string DuckNameForNew(Database database, std::string_view name) const override;
     std::string LocaleId() const override { return strLocale; }
+    std::optional<IdentityInsert> IdentityInsertTable() const override { return objIdentityInsert; }
 
   private:
     std::shared_ptr<const SharedCatalog::Snapshot> objSnapshot;
     const ObjectMap& dicOwn;
     std::string strLocale;
     bool blnIntoFile;
+    std::optional<IdentityInsert> objIdentityInsert;
 };
 
 }  // namespace kavelin::embedded

@@ -144,6 +144,7 @@ class Parser {
     ColumnDefinition ParseColumnDefinition();
     void ParseIdentityOption(ColumnDefinition& column);
     DropStatement ParseDrop();
+    IdentityInsertStatement ParseIdentityInsert();
 
     std::vector<Token> objTokens;
     std::size_t lngHere = 0;

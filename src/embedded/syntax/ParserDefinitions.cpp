@@ -1,6 +1,7 @@
 // Statements that make, change and drop tables, views and indexes.
 #include "embedded/SqlError.h"
 #include "embedded/syntax/Parser.h"
+#include "frame/Text.h"
 
 namespace kavelin::embedded {
 
@@ -172,6 +173,21 @@ DropStatement Parser::ParseDrop()
     if (!made.view)
         Expect({Keyword::Table});
     ParseList([&] { made.objects.push_back(ParseObjectName()); });
+    return made;
+}
+
+// `set identity_insert T on`; no other option is known.
+IdentityInsertStatement Parser::ParseIdentityInsert()
+{
+    if (!EqualsNoCase(Ahead(1).value, "identity_insert"))
+        Refuse();
+    IdentityInsertStatement made;
+    Expect({Keyword::Set});
+    ExpectWord("identity_insert");
+    made.table = ParseObjectName();
+    made.on = Accept(Keyword::On);
+    if (!made.on)
+        ExpectWord("off");
     return made;
 }
 

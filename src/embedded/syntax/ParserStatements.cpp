@@ -23,6 +23,7 @@ Statement Parser::ParseStatementBody()
         case Keyword::Alter: return ParseAlter();
         case Keyword::Drop: return {ParseDrop(), {}};
         case Keyword::If: return {ParseIf(), {}};
+        case Keyword::Set: return {ParseIdentityInsert(), {}};
         default: Refuse();
     }
 }

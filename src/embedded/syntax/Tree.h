@@ -308,6 +308,11 @@ struct DropStatement {
     bool view = false;  // drop view, else drop table
     std::vector<ObjectName> objects;
 };
+// `set identity_insert T on`: what is inserted into T brings its numbers.
+struct IdentityInsertStatement {
+    ObjectName table;
+    bool on = false;
+};
 struct IfExistsStatement {
     QueryPtr query;
     bool negated = false;
@@ -317,7 +322,7 @@ struct IfExistsStatement {
 struct Statement {
     std::variant<SelectStatement, InsertStatement, UpdateStatement, DeleteStatement, CreateTableStatement,
                  CreateViewStatement, CreateFunctionStatement, CreateIndexStatement, AlterColumnStatement,
-                 AddColumnsStatement, DropStatement, IfExistsStatement>
+                 AddColumnsStatement, DropStatement, IdentityInsertStatement, IfExistsStatement>
         node;
     Place place;
 };

@@ -277,6 +277,12 @@ class Writer {
         Put(node.view ? "drop view " : "drop table ");
         WriteList(node.objects);
     }
+    void operator()(const IdentityInsertStatement& node)
+    {
+        Put("set identity_insert ");
+        Write(node.table);
+        Put(node.on ? " on" : " off");
+    }
     void operator()(const IfExistsStatement& node)
     {
         Put(node.negated ? "if not exists " : "if exists ");

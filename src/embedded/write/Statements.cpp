@@ -260,6 +260,14 @@ StatementPlan WriteStatement(const BoundDrop& statement)
     return plan;
 }
 
+StatementPlan WriteStatement(const BoundIdentityInsert& statement)
+{
+    StatementPlan plan;
+    plan.identityInsert = statement.on ? std::optional(statement.table) : std::nullopt;
+    plan.setsIdentityInsert = true;
+    return plan;
+}
+
 }  // namespace
 
 StatementPlan Write(const BoundStatement& statement)

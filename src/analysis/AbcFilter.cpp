@@ -2,6 +2,7 @@
 
 #include "frame/AccountParameters.h"
 #include "frame/FilterWalk.h"
+#include "frame/Guards.h"
 #include "frame/ModPub.h"
 #include "frame/Text.h"
 
@@ -27,7 +28,7 @@ constexpr ClassKey kClassKeys[] = {
 
 void TakeYear(ReportFilterObject& filter, std::string year, bool fromDialog, AbcConditions& conditions)
 {
-    const std::string loginYear = ModPub().gobjLogin->Year();
+    const std::string loginYear = Existing(ModPub().gobjLogin).Year();
     if (year.empty() && filter.ContextArgs()->Count() == 1)
         year = loginYear;
     InitLedgerParams(year);
@@ -41,7 +42,8 @@ void TakeItem(ReportFilterObject& filter, FilterItem& item, bool fromDialog, Abc
     const std::string name = ToLower(item.Name());
     const std::string value = FilterText(item.varValue());
     if (name == "iperiod") {
-        conditions.strPeriod = fromDialog ? MonthDigits(value) : std::to_string(ModPub().gobjLogin->Month());
+        conditions.strPeriod =
+            fromDialog ? MonthDigits(value) : std::to_string(Existing(ModPub().gobjLogin).Month());
         return;
     }
     if (name == "iyear") {

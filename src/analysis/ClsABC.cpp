@@ -50,7 +50,7 @@ void ClsABC::GetSqlForOld(LateBound& e)
 
 bool ClsABC::MoveDataDetail()
 {
-    const AbcConditions conditions = ReadAbcFilter(*objFrame.objFilter, blnFromDialog);
+    const AbcConditions conditions = ReadAbcFilter(Existing(objFrame.objFilter), blnFromDialog);
     LedgerParams& params = Existing(ModPub().gobjLedgerParams);
     AbcRun run;
     run.strPeriod = conditions.strPeriod;
@@ -63,7 +63,7 @@ bool ClsABC::MoveDataDetail()
 
     ClassifyItems(run);
 
-    Connection& account = *ModPub().gcnnAccount;
+    Connection& account = Existing(ModPub().gcnnAccount);
     account.Execute(DropAbcResult(objFrame.strTable));
     if (blnActA == blnActB && blnActB == blnActC)
         blnActA = blnActB = blnActC = true;

@@ -1,6 +1,7 @@
 #include "analysis/ModABC.h"
 
 #include "analysis/AbcOptions.h"
+#include "frame/Guards.h"
 #include "frame/ModPub.h"
 
 namespace kavelin {
@@ -14,8 +15,8 @@ double Number(const Value& value)
 
 std::unique_ptr<Recordset> Open(const std::string& sql)
 {
-    return ModPub().gcnnAccount->OpenRecordset(sql, CursorLocation::Client, CursorType::ForwardOnly,
-                                               LockType::ReadOnly);
+    return Existing(ModPub().gcnnAccount)
+        .OpenRecordset(sql, CursorLocation::Client, CursorType::ForwardOnly, LockType::ReadOnly);
 }
 
 }  // namespace
@@ -26,7 +27,7 @@ void ClassifyItems(const AbcRun& run)
     const auto totals = Open(SelectTotalMoney(run));
     const double money = Number(totals->Field("nums")) + Number(totals->Field("moneys"));
 
-    Connection& account = *ModPub().gcnnAccount;
+    Connection& account = Existing(ModPub().gcnnAccount);
     account.Execute(SelectItems(run));
     account.Execute(SelectAbcTable(run));
     account.Execute(UpdateShares(run, quantity, money));

@@ -21,7 +21,7 @@ long DaysOf(const std::string& first, const std::string& last)
 
 void Replace(const std::string& table, const std::string& select)
 {
-    Connection& account = *ModPub().gcnnAccount;
+    Connection& account = Existing(ModPub().gcnnAccount);
     DropTableQuiet(account, table);
     account.Execute(select);
 }
@@ -35,7 +35,7 @@ void ComputeTurnover(TurnoverRun& run)
     run.strInventory = Existing(ModPub().gobjLedgerParams).InventoryQualifier() + "Inventory";
     run.dblDays = DaysOf(run.strDateFrom, run.strDateTo);
     ComposeTurnoverRun(run);
-    Connection& account = *ModPub().gcnnAccount;
+    Connection& account = Existing(ModPub().gcnnAccount);
 
     Replace(run.tables.rows, SelectIssues(run));
     account.Execute(InsertOpening(run));

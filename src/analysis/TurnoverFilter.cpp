@@ -54,8 +54,9 @@ std::string DateText(const Value& value)
 // The last posting date of the year; null if the year has no line.
 Value LastPostingDate(const std::string& year)
 {
-    const auto rows = ModPub().gcnnAccount->OpenRecordset(SelectLastPostingDate(year), CursorLocation::Client,
-                                                          CursorType::ForwardOnly, LockType::ReadOnly);
+    const auto rows = Existing(ModPub().gcnnAccount)
+                          .OpenRecordset(SelectLastPostingDate(year), CursorLocation::Client,
+                                         CursorType::ForwardOnly, LockType::ReadOnly);
     return rows->Field("MAXDate");
 }
 
@@ -63,7 +64,7 @@ void TakeRange(FilterItem& item, TurnoverConditions& conditions)
 {
     std::string year = Existing(ModPub().gobjLedgerParams).Year();
     const auto [first, last] =
-        Existing(ModPub().gobjLedgerPub).GetYearMonthRange(year, *ModPub().gcnnAccount);
+        Existing(ModPub().gobjLedgerPub).GetYearMonthRange(year, Existing(ModPub().gcnnAccount));
     Value begin, end;
     GetPeriodDates(first, &begin, nullptr, year);
     GetPeriodDates(last, nullptr, &end, year);

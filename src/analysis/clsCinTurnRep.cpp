@@ -5,6 +5,7 @@
 #include "analysis/TurnoverFormat.h"
 #include "analysis/TurnoverStatements.h"
 #include "frame/AccountParameters.h"
+#include "frame/Guards.h"
 #include "frame/ModPub.h"
 #include "frame/PermissionColumns.h"
 #include "frame/TempTables.h"
@@ -28,7 +29,7 @@ TurnoverRun RunOf(const TurnoverConditions& conditions)
 void DropWorkingTables(const TurnoverTables& tables)
 {
     for (const std::string& table : {tables.detail, tables.average, tables.rows, tables.rates})
-        DropTableQuiet(*ModPub().gcnnAccount, table);
+        DropTableQuiet(Existing(ModPub().gcnnAccount), table);
 }
 
 }  // namespace
@@ -48,15 +49,15 @@ void clsCinTurnRep::GetSqlForOld(LateBound& e)
 bool clsCinTurnRep::MoveDataDetail()
 {
     const std::string decimals = std::to_string(ToInt16(GetAccInfoValue("AA", "iStrsQuanDecDgt")));
-    TurnoverRun run = RunOf(ReadTurnoverFilter(*objFrame.objFilter));
+    TurnoverRun run = RunOf(ReadTurnoverFilter(Existing(objFrame.objFilter)));
     run.strWhere += BuildPermissionClauses(PermissionColumnsOf("clsCinTurnRep"));
     run.tables = TurnoverTablesOf(GetClientSuffix());
 
     ComputeTurnover(run);
 
     run.strQuanDec = decimals;
-    DropTableQuiet(*ModPub().gcnnAccount, objFrame.strTable);
-    ModPub().gcnnAccount->Execute(SelectTurnover(run, objFrame.strTable));
+    DropTableQuiet(Existing(ModPub().gcnnAccount), objFrame.strTable);
+    Existing(ModPub().gcnnAccount).Execute(SelectTurnover(run, objFrame.strTable));
     HideEmptyColumns(objFrame.objReportManager, run.groups, run.blnByAmount);
     DropWorkingTables(run.tables);
     return true;

@@ -2,6 +2,7 @@
 
 #include "analysis/ProPortionFilter.h"
 #include "analysis/ProPortionStatements.h"
+#include "frame/Guards.h"
 #include "frame/ModPub.h"
 #include "frame/PermissionColumns.h"
 
@@ -35,12 +36,12 @@ void clsProPortion::GETSQL(ReportCallArgs& e)
 
 bool clsProPortion::MoveDataDetail()
 {
-    BuildRangeWhere(*objFrame.objFilter);  // the build makes the clause again; this one is not used
-    Connection& connection = *objFrame.cnnOwn;
+    BuildRangeWhere(Existing(objFrame.objFilter));  // the build makes the clause again; this one is not used
+    Connection& connection = Existing(objFrame.cnnOwn);
 
     connection.Execute(DropIfExists(kLedgerRows));
-    const std::string year = ModPub().gobjLogin->Year();
-    const std::string range = BuildRangeWhere(*objFrame.objFilter);
+    const std::string year = Existing(ModPub().gobjLogin).Year();
+    const std::string range = BuildRangeWhere(Existing(objFrame.objFilter));
     connection.Execute(SelectLedgerRows(year, range, BuildPermissionWhere()));
     const auto total = OpenStatic(connection, SelectGrandTotal());
 
@@ -56,7 +57,7 @@ bool clsProPortion::MoveDataDetail()
     ranked->Close();
     total->Close();
 
-    connection.Execute(SelectResult(objFrame.strTable, BuildRankWhere(*objFrame.objFilter)));
+    connection.Execute(SelectResult(objFrame.strTable, BuildRankWhere(Existing(objFrame.objFilter))));
     for (const std::string_view table : {kLedgerRows, kItemSums, kRankedItems})
         connection.Execute(DropIfExists(table));
     return true;

@@ -1,6 +1,7 @@
 #include "filter/CostingBasis.h"
 
 #include "frame/AccountParameters.h"
+#include "frame/Guards.h"
 #include "frame/ModPub.h"
 
 #include <string_view>
@@ -23,7 +24,7 @@ constexpr struct {
 void SettleCostingBasis(ReportFilterObject& filter, const std::string& year)
 {
     InitLedgerParams(year);
-    const std::string basis = ModPub().gobjLedgerParams->ValueStyle();
+    const std::string basis = Existing(ModPub().gobjLedgerParams).ValueStyle();
     for (const auto& field : kFields) {
         filter.SetFieldValue(field.key, "");
         filter.SetFieldLocked(field.key, basis != field.openWith);

@@ -14,7 +14,7 @@ std::string GetAccYearList(DialogState& state)
     LoginContext& login = Existing(ModPub().gobjLogin);
     std::string list;
     for (const std::string& year :
-         ModPub().gobjLedgerPub->GetAccountYears(login.Year(), Existing(ModPub().gcnnAccount)))
+         Existing(ModPub().gobjLedgerPub).GetAccountYears(login.Year(), Existing(ModPub().gcnnAccount)))
         list += (list.empty() ? "" : ",") + year;
     state.strCurYear = login.Year();
     return list;
@@ -27,7 +27,7 @@ MonthRange GetMonthsOfYear(const std::string& year)
         InitLedgerObjects();
     MonthRange months;
     std::tie(months.first, months.last) =
-        ModPub().gobjLedgerPub->GetYearMonthRange(year, Existing(ModPub().gcnnAccount));
+        Existing(ModPub().gobjLedgerPub).GetYearMonthRange(year, Existing(ModPub().gcnnAccount));
     return months;
 }
 

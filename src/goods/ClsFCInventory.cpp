@@ -23,8 +23,8 @@ std::string ClsFCInventory::MoveDataDetail()
 
 void ClsFCInventory::Run()
 {
-    const InventoryConditions conditions = ReadCostFilter(*objFrame.objFilter);
-    Connection& account = *ModPub().gcnnAccount;
+    const InventoryConditions conditions = ReadCostFilter(Existing(objFrame.objFilter));
+    Connection& account = Existing(ModPub().gcnnAccount);
 
     const std::string name = GetClientTableName("FCSFCItem");
     const std::string table = InTempdb(name);

@@ -73,8 +73,8 @@ std::string ClsOutDetailInfo::MoveDataDetail()
 
 void ClsOutDetailInfo::Run()
 {
-    const DetailConditions conditions = ReadDetailFilter(*objFrame.objFilter);
-    Connection& account = *ModPub().gcnnAccount;
+    const DetailConditions conditions = ReadDetailFilter(Existing(objFrame.objFilter));
+    Connection& account = Existing(ModPub().gcnnAccount);
 
     const std::string table = CreateTable(account);
     FillOpening(account, table, conditions.strOpenWhere);

@@ -1,6 +1,7 @@
 #include "goods/DetailFilter.h"
 
 #include "frame/FilterWalk.h"
+#include "frame/Guards.h"
 #include "frame/ModPub.h"
 #include "frame/Statement.h"
 #include "frame/Text.h"
@@ -73,9 +74,9 @@ bool TakeItem(FilterItem& item, DetailConditions& conditions, Clauses& clauses)
 std::string FreeItemClause(ReportFilterObject& objFilter, const std::string& inventory,
                            const std::string& year)
 {
-    const auto found =
-        ModPub().gcnnAccount->OpenRecordset(SelectFreeItems(inventory, year), CursorLocation::Client,
-                                            CursorType::ForwardOnly, LockType::ReadOnly);
+    const auto found = Existing(ModPub().gcnnAccount)
+                           .OpenRecordset(SelectFreeItems(inventory, year), CursorLocation::Client,
+                                          CursorType::ForwardOnly, LockType::ReadOnly);
     std::string clause;
     for (int number = 1; !found->Eof() && number <= kFreeItems; ++number) {
         const std::string digits = std::to_string(number);

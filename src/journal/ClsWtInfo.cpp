@@ -45,7 +45,7 @@ void ClsWtInfo::GetSqlForOld(LateBound& e)
 std::string ClsWtInfo::MoveDataDetail()
 {
     const bool ended = IgnoreErrors([this] {
-        TranslateWtFilter(*objFrame.objFilter, objConditions);
+        TranslateWtFilter(Existing(objFrame.objFilter), objConditions);
         BuildWtTable(objFrame.strTable, objConditions);
     });
     return ended ? "" : " ";

@@ -31,7 +31,7 @@ struct Request {
 
 void CreateWtTable(const std::string& strTable)
 {
-    Connection& connection = *ModPub().gcnnAccount;
+    Connection& connection = Existing(ModPub().gcnnAccount);
     IgnoreErrors([&] { connection.Execute(CreateJournalTable(strTable)); });
     for (const std::string& statement : AlterJournalTable(strTable))
         IgnoreErrors([&] { connection.Execute(statement); });
@@ -49,7 +49,7 @@ std::string InLedgerTypes(const VouTypes& types)
 bool RunPosted(const Request& request)
 {
     return ShowErrors([&] {
-        Connection& connection = *ModPub().gcnnAccount;
+        Connection& connection = Existing(ModPub().gcnnAccount);
         WtRun run;
         run.strTable = request.strTable;
         run.strSelect = SelectPosted(request.strValueStyle);
@@ -73,7 +73,7 @@ std::string OnDocuments(const Request& request)
 bool RunUnposted(const Request& request)
 {
     return ShowErrors([&] {
-        Connection& connection = *ModPub().gcnnAccount;
+        Connection& connection = Existing(ModPub().gcnnAccount);
         WtUnpostedRun run;
         run.strTable = request.strTable;
         run.strSelect = SelectUnposted(request.strValueStyle);
@@ -97,7 +97,7 @@ bool DropWtTable(const std::string& strTable)
     return ShowErrors([&] {
         if (strTable.empty())
             throw Error(Resources().GetResString("Orvo.IA.CHHSSQL.07860"));
-        ModPub().gcnnAccount->Execute(DropJournalTable(strTable));
+        Existing(ModPub().gcnnAccount).Execute(DropJournalTable(strTable));
     });
 }
 

@@ -45,7 +45,7 @@ std::string UpdateBusType(const std::string& table, const std::string& language)
 bool FinishWtVouchers(const std::string& strTable, const std::string& strPzNoID)
 {
     return IgnoreErrors([&] {
-        Connection& connection = *ModPub().gcnnAccount;
+        Connection& connection = Existing(ModPub().gcnnAccount);
         connection.Execute(UpdateVoucherNumber(strTable));
         connection.Execute(DeleteOtherVouchers(strTable, strPzNoID));
         connection.Execute(UpdateShownVoucher(strTable));
@@ -58,7 +58,7 @@ bool FinishWtBusType(const std::string& strTable)
     const std::string& language = ModPub().gstrLanguage;
     if (language == "zh-CN")
         return true;
-    return ShowErrors([&] { ModPub().gcnnAccount->Execute(UpdateBusType(strTable, language)); });
+    return ShowErrors([&] { Existing(ModPub().gcnnAccount).Execute(UpdateBusType(strTable, language)); });
 }
 
 }  // namespace kavelin

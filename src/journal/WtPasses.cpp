@@ -110,7 +110,8 @@ std::string InsertInvoices(const WtUnpostedRun& run, std::string_view source)
         run.flags.cEnDispAccountStyle == kInvoice ? "" : "and NoSub.cBusType not in (N'委托',N'委托代销')";
 
     return JoinLines({
-        InsertFrom(run, source) + run.strJoin + " left join rdrecords32 rdrecords  ON NoSub.ID=rdrecords.ISBSID",
+        InsertFrom(run, source) + run.strJoin +
+            " left join rdrecords32 rdrecords  ON NoSub.ID=rdrecords.ISBSID",
         " LEFT JOIN dispatchlists ON NoSub.cDLCode=dispatchlists.IDLSID",
         " LEFT JOIN rdrecords32 Rs2 ON dispatchlists.IDLSID=Rs2.IDLSID",
         " where isnull(NoSub.cAccounter,'')='' and " + run.strWhere + " and left(NoSub.cBusType,2)<>N'直运'",

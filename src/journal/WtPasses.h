@@ -12,7 +12,7 @@ namespace kavelin {
 // A run, and what the documents' statements need beyond it.
 struct WtUnpostedRun : WtRun {
     WtFlags flags;
-    std::string strVouTypes;  // the documents' list, empty for all
+    std::string strVouTypes;     // the documents' list, empty for all
     std::string strDirectWhere;  // strWhere without conditions that documents of direct business cannot meet
 };
 

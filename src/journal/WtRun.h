@@ -23,8 +23,8 @@ WtFlags ReadWtFlags();
 struct WtRun {
     std::string strTable;
     std::string strSelect;  // the select list
-    std::string strJoin;  // ends its line
-    std::string strWhere;     // in front of it stands nothing, not even "where"
+    std::string strJoin;    // ends its line
+    std::string strWhere;   // in front of it stands nothing, not even "where"
 };
 
 }  // namespace kavelin

@@ -1,6 +1,7 @@
 #include "journal/clsAreaStockReport.h"
 
 #include "frame/FilterWalk.h"
+#include "frame/Guards.h"
 #include "frame/ModPub.h"
 #include "journal/AreaStockStatements.h"
 
@@ -9,9 +10,10 @@ namespace kavelin {
 void clsAreaStockReport::GETSQL(ReportCallArgs& e)
 {
     RunFrame(FindFrameRow("clsAreaStockReport", FrameEntry::GETSQL), e, objFrame, [this] {
-        ModPub().gcnnAccount->Execute(
-            SelectAreaRows(objFrame.strTable, FilterText(objFrame.dicArgs[FrameRead::ArgIADataTable]),
-                           FilterText(objFrame.dicArgs[FrameRead::ArgIAAreeTable])));
+        Existing(ModPub().gcnnAccount)
+            .Execute(SelectAreaRows(objFrame.strTable,
+                                    FilterText(objFrame.dicArgs[FrameRead::ArgIADataTable]),
+                                    FilterText(objFrame.dicArgs[FrameRead::ArgIAAreeTable])));
         return true;
     });
 }

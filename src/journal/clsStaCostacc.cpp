@@ -65,16 +65,17 @@ bool CopyRows(const std::string& table, const std::string& where, const std::str
     return ShowErrors([&] {
         const std::string ofBusTypes = busTypes.empty() ? "" : " And (  cBusType in (" + busTypes + "))";
         const std::string firstDate = ToText(GetAccInfoValue("ia", "dIAFirstDate"));
-        ModPub().gcnnAccount->Execute(SelectCostRows(table, where + " And   dKeepDate>='" + firstDate + "'",
-                                                     InVouTypes(vouTypes), ofBusTypes));
+        Existing(ModPub().gcnnAccount)
+            .Execute(SelectCostRows(table, where + " And   dKeepDate>='" + firstDate + "'",
+                                    InVouTypes(vouTypes), ofBusTypes));
     });
 }
 
 bool FillVouchers(const std::string& table)
 {
     return ShowErrors([&] {
-        ModPub().gcnnAccount->Execute(UpdateCostVoucher(table));
-        ModPub().gcnnAccount->Execute(UpdateCostDifVoucher(table));
+        Existing(ModPub().gcnnAccount).Execute(UpdateCostVoucher(table));
+        Existing(ModPub().gcnnAccount).Execute(UpdateCostDifVoucher(table));
     });
 }
 
@@ -95,7 +96,7 @@ void clsStaCostacc::GetSqlForOld(LateBound& e)
 std::string clsStaCostacc::MoveDataDetail()
 {
     const bool ended = IgnoreErrors([this] {
-        TranslateCostFilter(*objFrame.objFilter, objConditions);
+        TranslateCostFilter(Existing(objFrame.objFilter), objConditions);
         CreateCostInfoTable(false, false, objFrame.strTable, objConditions.strWhere,
                             objConditions.strVouTypes, objConditions.strBusTypes, ModPub().gstrLanguage,
                             objConditions.lngAssUnitNo);

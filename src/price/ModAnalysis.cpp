@@ -16,7 +16,7 @@ namespace {
 
 void Execute(const std::string& sql)
 {
-    ModPub().gcnnAccount->Execute(sql);
+    Existing(ModPub().gcnnAccount).Execute(sql);
 }
 
 std::int16_t ReadRatioScale()

@@ -40,7 +40,7 @@ void clsIaAnalysis::GETSQL(ReportCallArgs& e)
 std::string clsIaAnalysis::MoveDataDetail()
 {
     const bool ended = IgnoreErrors([this] {
-        const AnalysisConditions conditions = ReadAnalysisFilter(*objFrame.objFilter);
+        const AnalysisConditions conditions = ReadAnalysisFilter(Existing(objFrame.objFilter));
         DropTempdbTable(objFrame.strTable);
         CreateAnalysisTable(objFrame.strTable);
         BuildAnalysisData(objFrame.strTable, conditions);

@@ -1,6 +1,7 @@
 #include "summary/ModLast.h"
 
 #include "frame/AccountParameters.h"
+#include "frame/Guards.h"
 #include "frame/ModPub.h"
 #include "frame/TempTables.h"
 #include "frame/Text.h"
@@ -19,7 +20,7 @@ constexpr const char* kConsigned = "N'受托代销'";
 
 void Execute(const std::string& sql)
 {
-    ModPub().gcnnAccount->Execute(sql);
+    Existing(ModPub().gcnnAccount).Execute(sql);
 }
 
 bool HasBusTypes(const EstimateRun& run)

@@ -69,7 +69,7 @@ bool clsLastRep::MoveDataDetail()
 {
     const bool bOM = HasOutsourcing();
     return IgnoreErrors([&] {
-        TranslateEstimateFilter(*objFrame.objFilter, objConditions);
+        TranslateEstimateFilter(Existing(objFrame.objFilter), objConditions);
         EstimateRun run = RunOf(objConditions, bOM);
 
         CreateZgTable(run);
@@ -83,7 +83,7 @@ bool clsLastRep::MoveDataDetail()
 
 bool clsLastRep::Createsql(const std::string& sSumTable, bool /*bOM*/)
 {
-    Connection& connection = *ModPub().gcnnAccount;
+    Connection& connection = Existing(ModPub().gcnnAccount);
     connection.Execute(DropEstimateResult(TempTablename()));
     connection.Execute(
         SelectEstimateResult(TempTablename(), sSumTable, objConditions, ModPub().gstrLanguage));
@@ -96,7 +96,8 @@ bool clsLastRep::LocalizeBusType(const std::string& strTable)
     const std::string& language = ModPub().gstrLanguage;
     if (EqualsNoCase(language, "zh-CN"))
         return true;
-    return IgnoreErrors([&] { ModPub().gcnnAccount->Execute(UpdateBusTypeNames(strTable, language)); });
+    return IgnoreErrors(
+        [&] { Existing(ModPub().gcnnAccount).Execute(UpdateBusTypeNames(strTable, language)); });
 }
 
 }  // namespace kavelin

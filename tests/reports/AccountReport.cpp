@@ -9,6 +9,7 @@
 #include "host/HostConnection.h"
 #include "host/Reports.h"
 #include "host/StatementLog.h"
+#include "reports/ProfileAccounts.h"
 
 #include <gtest/gtest.h>
 
@@ -21,16 +22,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::int64_t kLines = 6000;
-
 // The accounts of this program.
 class Accounts {
   public:
     std::string Of(const demo::Profile& profile)
     {
-        const fs::path path = objFolder / (std::string(profile.name) + ".kavelin");
-        if (!fs::exists(path))
-            demo::MakeDemoAccount(path, profile, kLines);
+        const fs::path folder = objFolder / "", path = ProfileAccountIn(folder, profile);
+        const fs::path ready = ReadyAccounts();
+        if (!fs::exists(path) && ready.empty())
+            MakeProfileAccount(folder, profile);
+        else if (!fs::exists(path))
+            CopyProfileAccount(ready, folder, profile);
         return path.string();
     }
 
@@ -87,10 +89,7 @@ AccountCopy::AccountCopy(const demo::Profile& profile)
     const fs::path original = AccountOf(profile);
     const fs::path folder = original.parent_path() / ("copy-" + std::to_string(++number));
     fs::create_directories(folder);
-    const std::string stem = original.stem().string();
-    for (const fs::directory_entry& file : fs::directory_iterator(original.parent_path()))
-        if (file.is_regular_file() && file.path().filename().string().starts_with(stem + "."))
-            fs::copy_file(file.path(), folder / file.path().filename());
+    CopyProfileAccount(original.parent_path(), folder, profile);
     strPath = (folder / original.filename()).string();
 }
 

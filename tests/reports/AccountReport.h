@@ -11,7 +11,7 @@
 
 namespace kavelin::test {
 
-// Made once a test program, with few lines; goes with the program.
+// The test program's own, with few lines; goes with the program.
 std::string AccountOf(const demo::Profile& profile);
 
 // An account with the whole schema, and rows that the test gives it. Goes with the object.

@@ -425,8 +425,7 @@ TEST_P(PriceAnalysisOf, ShowsWhatDeviates)
     AccountReport lines = Run(question, kLines);
     AccountReport far = Run(question, kLines, {"DiffRatio=5"});
     EXPECT_EQ(far.Rows(count), lines.Rows("select count(*) from {} where DiffRatio >= 5 or DiffRatio <= -5"));
-    EXPECT_EQ(Run(question, kSummary, {"cVouType=01"}).Rows(count), "0\n")
-        << "a summary row has no voucher";
+    EXPECT_EQ(Run(question, kSummary, {"cVouType=01"}).Rows(count), "0\n") << "a summary row has no voucher";
 }
 
 TEST_P(PriceAnalysisOf, ShowsTheLinesOfItsConditions)

@@ -27,7 +27,7 @@ set(KAVELIN_EMBED_SCRIPT ${CMAKE_CURRENT_LIST_FILE})
 
 function(kavelin_embed target folder namespace)
     file(GLOB_RECURSE files CONFIGURE_DEPENDS ${folder}/*)
-    set(output ${CMAKE_BINARY_DIR}/embedded/${target}.cpp)
+    set(output ${Kavelin_BINARY_DIR}/embedded/${target}.cpp)
     add_custom_command(
         OUTPUT ${output}
         COMMAND ${CMAKE_COMMAND} -D FOLDER=${folder} -D NAMESPACE=${namespace} -D OUTPUT=${output}
@@ -37,6 +37,7 @@ function(kavelin_embed target folder namespace)
         VERBATIM)
     # A library of its own, so that neither waits for the other's dependencies.
     add_library(${target}_files OBJECT ${output})
+    kavelin_for_shared(${target}_files)
     target_link_libraries(${target}_files PRIVATE kavelin_options)
     target_include_directories(${target}_files PRIVATE ${KAVELIN_ROOMS}/host)
     target_sources(${target} PRIVATE $<TARGET_OBJECTS:${target}_files>)

@@ -3,7 +3,7 @@
 # Looked for in this order: the folder in DuckDB_ROOT (or the environment variable of that name), the
 # system, the packages that package-lock.json pins. DuckDB_INCLUDE_DIR and DuckDB_LIBRARY can be given too.
 
-set(_duckdb_npm ${CMAKE_SOURCE_DIR}/node_modules)
+set(_duckdb_npm ${Kavelin_SOURCE_DIR}/node_modules)
 
 find_path(DuckDB_INCLUDE_DIR duckdb.h
           HINTS ${_duckdb_npm}/duckdb/src/duckdb/src/include)

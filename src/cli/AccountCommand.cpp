@@ -1,4 +1,4 @@
-// kavelin account create|load|export|check
+// kavelin account create|load|export|check|copy
 #include "cli/Commands.h"
 #include "cli/Help.h"
 #include "cli/Messages.h"
@@ -73,7 +73,8 @@ void AddAccount(CLI::App& program, Action& action)
                                    "account create books.kavelin\n"
                                    "account load books.kavelin tables/\n"
                                    "account export books.kavelin copy/\n"
-                                   "account check books.kavelin");
+                                   "account check books.kavelin\n"
+                                   "account copy company books.kavelin");
     const auto paths = std::make_shared<Paths>();
     CLI::App* create = AddPathCommand(*account, "create", "Make an empty account with all tables",
                                       "account create books.kavelin", *paths);
@@ -87,6 +88,7 @@ void AddAccount(CLI::App& program, Action& action)
         ->type_name("FOLDER");
 
     AddAccountCheck(*account, action);
+    AddAccountCopy(*account, action);
 
     OnChosen(*create, action, [paths] { Create(*paths); });
     OnChosen(*load, action, [paths] { Load(*paths); });

@@ -1,5 +1,6 @@
 #include "cli/AccountFlags.h"
 
+#include "cli/PasswordPrompt.h"
 #include "demo/profiles/Profile.h"
 #include "frame/Text.h"
 #include "host/HostErrors.h"
@@ -39,7 +40,9 @@ host::Config LoadConfig(const host::Flags& flags)
 {
     if (flags.language && *flags.language != host::kChinese && *flags.language != host::kEnglish)
         throw host::UsageError(fmt::format("--language takes zh-CN or en-US, not \"{}\".", *flags.language));
-    return host::Config::Load(flags);
+    host::ConfigSources sources = host::ConfigSources::OfProcess();
+    sources.askPassword = AskPassword;
+    return host::Config::Load(flags, sources);
 }
 
 namespace {

@@ -35,6 +35,15 @@ std::vector<BatchPart> SplitBatch(const std::string& batch)
     }
 }
 
+std::vector<BatchPart> SplitForServer(const std::string& batch)
+{
+    try {
+        return SplitBatch(batch);
+    } catch (const DatabaseError&) {
+        return {{batch, 0, true}};
+    }
+}
+
 DatabaseError::Details InBatch(DatabaseError::Details details, const std::string& batch,
                                const BatchPart& part)
 {

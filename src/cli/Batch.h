@@ -19,6 +19,10 @@ struct BatchPart {
 // with such a fault is run.
 std::vector<BatchPart> SplitBatch(const std::string& batch);
 
+// The same for a server, which knows more T-SQL than can be read here: what cannot be read is one part, of
+// which the first rows that it gives are put out.
+std::vector<BatchPart> SplitForServer(const std::string& batch);
+
 // The details of an error in a part, with the place as it is in the batch.
 DatabaseError::Details InBatch(DatabaseError::Details details, const std::string& batch,
                                const BatchPart& part);

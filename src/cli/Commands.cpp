@@ -14,6 +14,7 @@ void AddCommands(CLI::App& program, Action& action)
     AddOpen(program, action);
     AddAbcOptions(program, action);
     AddAccount(program, action);
+    AddDoctor(program, action);
     AddQuery(program, action);
     AddCompletion(program, action);
 }

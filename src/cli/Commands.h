@@ -21,6 +21,8 @@ void AddOpen(CLI::App& program, Action& action);
 void AddAbcOptions(CLI::App& program, Action& action);
 void AddAccount(CLI::App& program, Action& action);
 void AddAccountCheck(CLI::App& account, Action& action);  // below the one above
+void AddAccountCopy(CLI::App& account, Action& action);   // likewise
+void AddDoctor(CLI::App& program, Action& action);
 void AddQuery(CLI::App& program, Action& action);
 void AddCompletion(CLI::App& program, Action& action);
 

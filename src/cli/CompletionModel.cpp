@@ -59,6 +59,8 @@ const std::vector<ValueKind>& ValueKinds()
         {"FILE", Completes::File, {}},
         {"PATH", Completes::File, {}},
         {"A", Completes::File, {}},
+        {"FROM", Completes::File, {}},
+        {"TO", Completes::File, {}},
         {"FOLDER", Completes::Folder, {}},
         {"FORM", Completes::Words, {"table", "csv", "json"}},
         {"CHECKFORM", Completes::Words, {"table", "json"}},

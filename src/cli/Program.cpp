@@ -59,8 +59,8 @@ bool IsPasswordOption(const std::string& argument)
 std::string WrongArgument(const CLI::App& command, const std::string& argument)
 {
     if (IsPasswordOption(argument))
-        return "A password is not taken on the command line, where others can read it. Put it into an "
-               "environment variable and name that in kavelin.toml: password_env = \"NAME\".";
+        return "A password is not taken on the command line, where others can read it. Put it into the "
+               "environment variable KAVELIN_PASSWORD, or one that kavelin.toml names by password_env.";
     if (argument.starts_with("-"))
         return fmt::format("{} has no option {}.{}", CommandPath(command),
                            argument.substr(0, argument.find('=')),

@@ -44,7 +44,10 @@ void RunPart(Connection& connection, const BatchPart& part, const Work& work, Ro
 
 void Explain(const QueryFlags& flags)
 {
-    host::AccountLogin login = ChosenLogin(flags.login);
+    const host::AccountLogin login = ChosenLogin(flags.login);
+    if (login.IsOnServer())
+        throw host::UsageError(
+            "--explain shows what an embedded account makes of T-SQL; a server runs it as it is.");
     const auto connection = embedded::NewConnection();
     connection->SetConnectionString(login.connectionString);
     connection->Open("", "", 0);
@@ -61,7 +64,8 @@ void Query(const QueryFlags& flags)
     }
     RowsTarget target(flags.output);
     host::AccountLogin login = ChosenLogin(flags.login);
-    const std::vector<BatchPart> parts = SplitBatch(flags.sql);
+    const std::vector<BatchPart> parts =
+        login.IsOnServer() ? SplitForServer(flags.sql) : SplitBatch(flags.sql);
 
     Work work({.statements = static_cast<int>(parts.size())});
     const auto connection = host::OpenLogin(login, work.Connections(), "query");

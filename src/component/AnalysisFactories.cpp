@@ -37,8 +37,7 @@ std::vector<Dispatch> OlderMembers(Report& report)
 {
     std::vector<Dispatch> dispatch = AnalysisMembers(report);
     dispatch.push_back(ObjectProperty("ObjreportManager", report.ObjreportManager()));
-    dispatch.push_back(
-        MethodOn<LateBound>("GetSqlForOld", [&report](LateBound& e) { report.GetSqlForOld(e); }));
+    dispatch.push_back(LateMethod("GetSqlForOld", [&report](LateBound& e) { report.GetSqlForOld(e); }));
     return dispatch;
 }
 
@@ -65,8 +64,7 @@ std::shared_ptr<LateBound> CreateABC()
     std::vector<Dispatch> dispatch = OlderMembers(members);
     dispatch.push_back(
         MethodOn<DrillDownArgs>("Execute", [&members](DrillDownArgs& e) { members.Execute(e); }));
-    dispatch.push_back(
-        MethodOn<LateBound>("ExecuteForOld", [&members](LateBound& e) { members.ExecuteForOld(e); }));
+    dispatch.push_back(LateMethod("ExecuteForOld", [&members](LateBound& e) { members.ExecuteForOld(e); }));
     return MakeLateBound(report, std::move(dispatch));
 }
 

@@ -6,6 +6,7 @@
 
 #include "frame/host/HostObject.h"
 
+#include <cstddef>
 #include <memory>
 #include <span>
 #include <string>
@@ -15,10 +16,23 @@ namespace kavelin {
 
 enum class MemberKind { Property, Method };
 
+// What an argument, a property or a result holds, as a client of the class declares it.
+enum class Kind { Nothing, Text, Boolean, Byte, Int16, Int32, Any, Object };
+
+struct Parameter {
+    std::string_view name;
+    Kind kind;
+    bool byReference = false;
+    bool optional = false;  // left out it is empty: "", 0, False
+};
+
 struct Member {
     std::string_view name;
     MemberKind kind;
-    int arguments = 0;  // of a method; indexes of a property
+    Kind type = Kind::Nothing;                   // of the property; of the method's result
+    std::span<const Parameter> parameters = {};  // of a method; indexes of a property
+
+    std::size_t Arguments() const { return parameters.size(); }
 };
 
 struct PublicClass {

@@ -1,6 +1,7 @@
 // Members of a C++ object, called by name.
 #pragma once
 
+#include "automation/Views.h"
 #include "frame/host/HostObject.h"
 
 #include <cstdint>
@@ -42,12 +43,23 @@ Dispatch Method(std::string_view name, std::size_t arguments,
 Dispatch MethodByReference(std::string_view name, std::size_t arguments,
                            std::function<Variant(std::vector<Variant>&)> call);
 
-// A method with one argument of the interface `T`, without a result.
+// A method with one argument of the interface `T`, without a result. The host may pass an object of it or a
+// late-bound one.
 template <class T, class Call>
 Dispatch MethodOn(std::string_view name, Call call)
 {
     return Method(name, 1, [name, call](const std::vector<Variant>& arguments) -> Variant {
-        call(*ObjectOf<T>(arguments[0], name));
+        call(*automation::As<T>(arguments[0], name));
+        return Value();
+    });
+}
+
+// The same for an entry whose argument is late-bound.
+template <class Call>
+Dispatch LateMethod(std::string_view name, Call call)
+{
+    return Method(name, 1, [name, call](const std::vector<Variant>& arguments) -> Variant {
+        call(*automation::AsEntryArgument(arguments[0], name));
         return Value();
     });
 }

@@ -11,9 +11,10 @@ namespace kavelin {
 
 namespace {
 
-ReportFilterObject& FilterOf(const Variant& argument)
+// A view is kept only here, so the caller holds it while the callback runs.
+std::shared_ptr<ReportFilterObject> FilterOf(const Variant& argument)
 {
-    return *ObjectOf<ReportFilterObject>(argument, "the filter");
+    return automation::As<ReportFilterObject>(argument, "the filter");
 }
 
 std::string KeyOf(const Variant& argument)
@@ -42,18 +43,18 @@ std::shared_ptr<LateBound> CreateFilterControl()
     std::vector<Dispatch> dispatch = {
         Method("CallBack_FilterInit", 1,
                [&members](const Arguments& arguments) {
-                   return Variant(members.CallBack_FilterInit(FilterOf(arguments[0])));
+                   return Variant(members.CallBack_FilterInit(*FilterOf(arguments[0])));
                }),
         Method("CallBack_ValueChange", 2,
                [&members](const Arguments& arguments) {
-                   members.CallBack_ValueChange(KeyOf(arguments[0]), FilterOf(arguments[1]));
+                   members.CallBack_ValueChange(KeyOf(arguments[0]), *FilterOf(arguments[1]));
                    return Variant(Value());
                }),
         MethodByReference("CallBack_FilterClick", 2,
                           [&members](Arguments& arguments) {
                               bool cancel = false;
                               const Value result =
-                                  members.CallBack_FilterClick(FilterOf(arguments[0]), cancel);
+                                  members.CallBack_FilterClick(*FilterOf(arguments[0]), cancel);
                               arguments[1] = Value(cancel);
                               return Variant(result);
                           }),
@@ -61,13 +62,13 @@ std::shared_ptr<LateBound> CreateFilterControl()
                           [&members](Arguments& arguments) {
                               return WithViewClass(arguments[2], [&](Value& view) {
                                   members.CallBack_ReportViewChange(KeyOf(arguments[0]),
-                                                                    FilterOf(arguments[1]), view);
+                                                                    *FilterOf(arguments[1]), view);
                               });
                           }),
         MethodByReference("CallBack_ReportViewInit", 2,
                           [&members](Arguments& arguments) {
                               return WithViewClass(arguments[1], [&](Value& view) {
-                                  members.CallBack_ReportViewInit(FilterOf(arguments[0]), view);
+                                  members.CallBack_ReportViewInit(*FilterOf(arguments[0]), view);
                               });
                           }),
         Method("InitAccMonth", 0,

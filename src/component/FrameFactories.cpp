@@ -13,7 +13,7 @@ std::shared_ptr<LateBound> CreateBusiness()
     std::vector<Dispatch> dispatch = {
         Method("Init", 1,
                [](const std::vector<Variant>& arguments) {
-                   ClsBusiness().Init(ObjectOf<LateBound>(arguments[0], "oBusiness"));
+                   ClsBusiness().Init(automation::As<LateBound>(arguments[0], "oBusiness"));
                    return Variant(Value());
                }),
     };

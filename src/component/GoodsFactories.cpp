@@ -45,7 +45,7 @@ std::shared_ptr<LateBound> CreateFCSumInfo()
         Method("TempTablename", 0,
                [&members](const auto&) { return Variant(Value(members.TempTablename())); }),
         MethodOn<ReportCallArgs>("GETSQL", [&members](ReportCallArgs& e) { members.GETSQL(e); }),
-        MethodOn<LateBound>("GetSqlForOld", [&members](LateBound& e) { members.GetSqlForOld(e); }),
+        LateMethod("GetSqlForOld", [&members](LateBound& e) { members.GetSqlForOld(e); }),
         Method("MoveDataDetail", 0,
                [&members](const auto&) { return Variant(Value(members.MoveDataDetail())); }),
         Method("GetViewFilter", 1,
@@ -77,12 +77,12 @@ std::shared_ptr<LateBound> CreateGoodsTemplate()
 {
     auto object = std::make_shared<ClsFcSumCon>();
     ClsFcSumCon& members = *object;
-    return MakeLateBound(object,
-                         {Method("CreateNewTemplate", 2, [&members](const std::vector<Variant>& arguments) {
-                             const auto filter = ObjectOf<ReportFilterObject>(arguments[0], "objFilter");
-                             members.CreateNewTemplate(*filter, ToText(ValueOf(arguments[1], "sTableName")));
-                             return Variant(Value());
-                         })});
+    return MakeLateBound(
+        object, {Method("CreateNewTemplate", 2, [&members](const std::vector<Variant>& arguments) {
+            const auto filter = automation::As<ReportFilterObject>(arguments[0], "objFilter");
+            members.CreateNewTemplate(*filter, ToText(ValueOf(arguments[1], "sTableName")));
+            return Variant(Value());
+        })});
 }
 
 }  // namespace kavelin

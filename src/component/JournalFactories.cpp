@@ -26,7 +26,7 @@ std::vector<Dispatch> JournalMembers(Report& report)
         Method("MoveDataDetail", 0,
                [&report](const auto&) { return Variant(Value(report.MoveDataDetail())); }),
         MethodOn<ReportCallArgs>("GETSQL", [&report](ReportCallArgs& e) { report.GETSQL(e); }),
-        MethodOn<LateBound>("GetSqlForOld", [&report](LateBound& e) { report.GetSqlForOld(e); }),
+        LateMethod("GetSqlForOld", [&report](LateBound& e) { report.GetSqlForOld(e); }),
         MethodOn<DrillDownArgs>("Execute", [&report](DrillDownArgs& e) { report.Execute(e); }),
     };
 }
@@ -50,8 +50,7 @@ std::shared_ptr<LateBound> CreateWtInfo()
     std::vector<Dispatch> dispatch = JournalMembers(members);
     dispatch.push_back(Method("TempTablename", 0,
                               [&members](const auto&) { return Variant(Value(members.TempTablename())); }));
-    dispatch.push_back(
-        MethodOn<LateBound>("ExecuteForOld", [&members](LateBound& e) { members.ExecuteForOld(e); }));
+    dispatch.push_back(LateMethod("ExecuteForOld", [&members](LateBound& e) { members.ExecuteForOld(e); }));
     return MakeLateBound(report, std::move(dispatch));
 }
 

@@ -147,7 +147,7 @@ std::shared_ptr<LateBound> CreateSFCSumCon()
         Property("strCompareQuantity", members.strCompareQuantity),
         Method("CreateNewTemplate", 2,
                [&members](const std::vector<Variant>& arguments) {
-                   const auto filter = ObjectOf<ReportFilterObject>(arguments[0], "objFilter");
+                   const auto filter = automation::As<ReportFilterObject>(arguments[0], "objFilter");
                    members.CreateNewTemplate(*filter, ToText(ValueOf(arguments[1], "sTableName")));
                    return Variant(Value());
                }),
@@ -206,8 +206,8 @@ std::shared_ptr<LateBound> CreateLastRep()
         TextProperty(
             "TempTablename", [&members] { return members.TempTablename(); },
             [&members](const std::string& table) { members.SetTempTablename(table); }),
-        MethodOn<LateBound>("GetSqlForOld", [&members](LateBound& e) { members.GetSqlForOld(e); }),
-        MethodOn<LateBound>("GETSQL", [&members](LateBound& e) { members.GETSQL(e); }),
+        LateMethod("GetSqlForOld", [&members](LateBound& e) { members.GetSqlForOld(e); }),
+        LateMethod("GETSQL", [&members](LateBound& e) { members.GETSQL(e); }),
         Method("MoveDataDetail", 0,
                [&members](const auto&) { return Variant(Value(members.MoveDataDetail())); }),
         Method("Createsql", 2,

@@ -38,12 +38,20 @@ std::vector<std::string> Batches(std::string_view script)
     return batches;
 }
 
-void RunScripts(Connection& connection, std::string_view folder)
+std::vector<std::string> ScriptBatches(std::string_view folder)
 {
+    std::vector<std::string> all;
     for (const host::EmbeddedFile& file : EmbeddedFiles())
         if (IsIn(folder, file))
-            for (const std::string& batch : Batches(file.content))
-                connection.Execute(batch);
+            for (std::string& batch : Batches(file.content))
+                all.push_back(std::move(batch));
+    return all;
+}
+
+void RunScripts(Connection& connection, std::string_view folder)
+{
+    for (const std::string& batch : ScriptBatches(folder))
+        connection.Execute(batch);
 }
 
 std::vector<std::string> SchemaTables()

@@ -17,6 +17,9 @@ namespace kavelin::demo {
 // What is sent of a script: the texts between its lines GO, without those that are blank.
 std::vector<std::string> Batches(std::string_view script);
 
+// The batches of all scripts of data/FOLDER, ordered by name.
+std::vector<std::string> ScriptBatches(std::string_view folder);
+
 // Runs all scripts of data/FOLDER, ordered by name, batch by batch. Throws DatabaseError.
 void RunScripts(Connection& connection, std::string_view folder);
 

@@ -3,6 +3,7 @@
 #include "frame/Text.h"
 #include "frame/Value.h"
 #include "host/LocalText.h"
+#include "host/ServerAccount.h"
 
 #include <algorithm>
 #include <optional>
@@ -50,7 +51,12 @@ std::map<std::string, UserRights> OwnRights(Connection& connection)
 
 std::string AccountLogin::ConnectionText() const
 {
-    return WithLocale(connectionString, language);
+    return IsOnServer() ? WithPassword(connectionString, password) : WithLocale(connectionString, language);
+}
+
+bool AccountLogin::IsOnServer() const
+{
+    return OnServer(connectionString);
 }
 
 AccountLogin LoginFor(const Config& config, const AccountSettings& account)

@@ -16,7 +16,7 @@ namespace kavelin::host {
 
 // An account with everything that a login needs, passwords among it.
 struct AccountLogin {
-    std::string connectionString;  // Locale may be left out; `language` is meant then
+    std::string connectionString;  // without password; Locale may be left out: `language` is meant then
     std::string accountId = "001";
     std::string user = "demo";
     std::string password;
@@ -27,8 +27,11 @@ struct AccountLogin {
     std::map<std::string, UserRights> users;
     std::filesystem::path settingsFile;
 
-    // The connection string with the language as its Locale, unless it names one.
+    // The complete connection string: on a server with the password, of an embedded account with the language
+    // as its Locale, unless it names one. Not to be shown.
     std::string ConnectionText() const;
+
+    bool IsOnServer() const;
 };
 
 // The purpose, in the log, of the connection that asks an account about itself.

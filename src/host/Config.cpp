@@ -3,6 +3,7 @@
 #include "frame/Text.h"
 #include "host/ConfigFile.h"
 #include "host/HostErrors.h"
+#include "host/ServerAccount.h"
 #include "host/ValueGate.h"
 
 #include <fmt/format.h>
@@ -16,6 +17,7 @@ namespace kavelin::host {
 namespace {
 
 constexpr std::string_view kFileName = "kavelin.toml";
+constexpr const char* kPasswordVariable = "KAVELIN_PASSWORD";
 
 std::filesystem::path XdgFolder(const ConfigSources& sources, const std::string& variable,
                                 const char* underHome)
@@ -136,13 +138,27 @@ int Config::Month(const AccountSettings& account) const
 std::string Config::Password(const AccountSettings& account) const
 {
     if (account.passwordVariable.empty())
-        return "";
+        return WantsPassword(account.connectionString) ? PasswordFor(account.connectionString) : "";
     const auto password = objSources.environment(account.passwordVariable);
     if (!password)
         throw UsageError("The account " + account.name +
                          " takes its password from the environment variable " + account.passwordVariable +
                          ", which is not set.");
     return *password;
+}
+
+std::string Config::PasswordFor(const std::string& connectionString) const
+{
+    const std::string server = ServerShown(connectionString);
+    if (auto password = objSources.environment(kPasswordVariable))
+        return *password;
+    if (objSources.askPassword)
+        if (auto password = objSources.askPassword(fmt::format("Password for {}: ", server)))
+            return *password;
+    throw UsageError(
+        fmt::format("The login to {} takes a password: put it into the environment variable {}, or name "
+                    "another one by password_env in kavelin.toml.",
+                    server, kPasswordVariable));
 }
 
 std::string Config::FlagOrVariable(const std::optional<std::string>& flag, const std::string& variable) const

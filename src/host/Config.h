@@ -11,7 +11,7 @@
 //   year = 2008                   # accounting year and month of the login; the latest if not given
 //   month = 12
 //   user = "anna"                 # language, user: before those above
-//   password_env = "DEMO_PASSWORD"
+//   password_env = "DEMO_PASSWORD"  # of an account on a server; KAVELIN_PASSWORD if not given
 //
 //   [users.anna]                  # codes that a user may see; a list left out is no restriction
 //   warehouses = ["01", "02"]     # departments, inventory, operators
@@ -62,6 +62,8 @@ struct Flags {
 struct ConfigSources {
     std::function<std::optional<std::string>(const std::string&)> environment;
     std::filesystem::path workingFolder;
+    // Asks the user for a password, after that question; empty, or gives nothing, where nobody can be asked.
+    std::function<std::optional<std::string>(const std::string& question)> askPassword = {};
 
     static ConfigSources OfProcess();
 };
@@ -92,8 +94,9 @@ class Config {
     int Year(const AccountSettings& account) const;   // 0: the account's latest
     int Month(const AccountSettings& account) const;  // likewise
 
-    // The value of the account's password variable, empty if it has none. Throws UsageError if the
-    // variable is not set.
+    // The password of the account: the value of its password variable; without one, where its connection
+    // string names a user of a server, that of KAVELIN_PASSWORD or what the user answers, else empty. Throws
+    // UsageError, naming the variable, where there is none.
     std::string Password(const AccountSettings& account) const;
 
     const std::map<std::string, UserRights>& Users() const { return objFiles.users; }
@@ -102,6 +105,8 @@ class Config {
     std::filesystem::path SettingsFile() const { return strSettingsFile; }
 
   private:
+    std::string PasswordFor(const std::string& connectionString) const;
+
     // A flag or, without it, the variable; empty if there is neither.
     std::string FlagOrVariable(const std::optional<std::string>& flag, const std::string& variable) const;
     int NumberOf(const std::optional<int>& flag, const std::string& variable, int ofAccount, int first,

@@ -1,5 +1,6 @@
 #include "host/ConfigFile.h"
 
+#include "database/odbc/ConnectionText.h"
 #include "frame/Text.h"
 #include "host/HostErrors.h"
 #include "host/LocalText.h"
@@ -196,14 +197,17 @@ std::string CheckedLanguage(std::string_view language, std::string_view source)
 
 void RefusePassword(std::string_view connectionString, std::string_view source)
 {
+    bool holds = !odbc::PasswordOf(connectionString).empty();
     for (const std::string& part : Split(connectionString, ";")) {
         const std::string_view key = Trim(std::string_view(part).substr(0, part.find('=')));
-        if (EqualsNoCase(key, "Password") || EqualsNoCase(key, "PWD"))
-            throw UsageError(
-                fmt::format("{}: a connection string holds no password here: name an account in "
-                            "kavelin.toml whose password_env names an environment variable.",
-                            source));
+        holds = holds || EqualsNoCase(key, "Password") || EqualsNoCase(key, "PWD");
     }
+    if (holds)
+        throw UsageError(
+            fmt::format("{}: a connection string holds no password here: put it into the environment "
+                        "variable KAVELIN_PASSWORD, or name another one by password_env of an account "
+                        "in kavelin.toml.",
+                        source));
 }
 
 }  // namespace kavelin::host

@@ -15,10 +15,17 @@ class FailedStatements : public StatementObserver {
 
     // The message of the first failure since Forget.
     const std::optional<std::string>& First() const { return strFirst; }
-    void Forget() { strFirst.reset(); }
+    // The message of the failure with which the connection was lost since Forget, of whatever statement.
+    const std::optional<std::string>& Loss() const { return strLoss; }
+    void Forget()
+    {
+        strFirst.reset();
+        strLoss.reset();
+    }
 
   private:
     std::optional<std::string> strFirst;
+    std::optional<std::string> strLoss;
 };
 
 }  // namespace kavelin::host

@@ -1,5 +1,7 @@
 #include "host/HostConnection.h"
 
+#include "database/odbc/ConnectionText.h"
+#include "database/odbc/OdbcConnection.h"
 #include "embedded/EmbeddedAccount.h"
 #include "frame/Errors.h"
 #include "frame/Text.h"
@@ -29,6 +31,19 @@ bool HasKey(std::string_view connectionString, std::string_view key)
     return false;
 }
 
+// A connection of the engine that the string names, not open yet.
+std::shared_ptr<Connection> EngineFor(const std::string& connectionString)
+{
+    if (HasKey(connectionString, kEmbeddedKey))
+        return embedded::NewConnection();
+    odbc::ConnectionText::Parse(connectionString);  // tells what is wrong with a string that is none
+    if (!odbc::NamesServer(connectionString))
+        throw ConnectionError(NotConnected(
+            "The connection string names neither an embedded account (Embedded Account=PATH) nor a server "
+            "(Provider=...;Data Source=HOST;..., or ODBC's Driver=... or DSN=...)."));
+    return odbc::NewConnection();
+}
+
 // Keeps the settings until Open tells which engine they are for.
 class PickedConnection : public Connection {
   public:
@@ -39,16 +54,13 @@ class PickedConnection : public Connection {
 
     void Open(const std::string& user, const std::string& password, std::int32_t options) override
     {
-        if (!HasKey(strConnection, kEmbeddedKey))
-            throw ConnectionError(
-                NotConnected("The connection string names no embedded account, and this build "
-                             "knows no other: \"Embedded Account=PATH\"."));
-        std::shared_ptr<Connection> picked = embedded::NewConnection();
+        std::shared_ptr<Connection> picked = EngineFor(strConnection);
         picked->SetCursorLocation(enmLocation);
         picked->SetConnectionString(strConnection);
         picked->SetConnectionTimeout(lngConnectionTimeout);
         picked->SetCommandTimeout(lngCommandTimeout);
-        picked->Open(user, password, options);
+        // Beside the string, a password is written as the driver reads it; drivers differ in their quotes.
+        picked->Open(user, password.empty() ? odbc::PasswordOf(strConnection) : password, options);
         cnnPicked = std::move(picked);
     }
 
@@ -99,6 +111,11 @@ std::shared_ptr<Connection> CreateConnection()
     return std::make_shared<PickedConnection>();
 }
 
+bool IsEmbedded(std::string_view connectionString)
+{
+    return HasKey(connectionString, kEmbeddedKey);
+}
+
 std::string EmbeddedConnectionString(const std::string& path)
 {
     const bool bare = path.find_first_of(";'\"") == std::string::npos && Trim(path) == path;
@@ -113,7 +130,7 @@ std::string EmbeddedConnectionString(const std::string& path, std::string_view l
 
 std::string WithLocale(const std::string& connectionString, std::string_view language)
 {
-    if (!HasKey(connectionString, kEmbeddedKey) || HasKey(connectionString, "Locale"))
+    if (!IsEmbedded(connectionString) || HasKey(connectionString, "Locale"))
         return connectionString;
     return connectionString + ";Locale=" + std::string(language);
 }

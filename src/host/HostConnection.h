@@ -12,9 +12,14 @@
 namespace kavelin::host {
 
 // A connection that picks its engine by its connection string at Open:
-//   Embedded Account=PATH;Locale=zh-CN      an embedded account
-// Anything else fails with ConnectionError, since this build knows embedded accounts only.
+//   Embedded Account=PATH;Locale=zh-CN                     an embedded account
+//   Provider=...;Data Source=tcp:HOST,1433;...             a server
+//   Driver=...;Server=HOST;... or DSN=...                  a server, as ODBC names it
+// Anything else fails with ConnectionError.
 std::shared_ptr<Connection> CreateConnection();
+
+// Whether the connection string is that of an embedded account.
+bool IsEmbedded(std::string_view connectionString);
 
 // "Embedded Account=PATH;Locale=...", the path quoted where it must be.
 std::string EmbeddedConnectionString(const std::string& path, std::string_view language);

@@ -153,6 +153,9 @@ void ReportRun::Run(const Report& report, const FilterInput& input, const Afterw
 
 void ReportRun::ExpectWholeResult()
 {
+    // Nothing behind a loss was done, also where the report told of it and ended normally.
+    if (const std::optional<std::string> loss = objFailed->Loss())
+        throw ReportError("The report failed: " + *loss);
     const std::optional<std::string> failed = objFailed->First();
     const bool told = !Messages().empty();
     if (TableExists(Account(), strTable) && (told || !failed))

@@ -19,6 +19,13 @@
 
 namespace kavelin::host {
 
+namespace {
+
+// The class of the SQLSTATEs of a connection that is gone.
+constexpr std::string_view kConnectionStates = "08";
+
+}  // namespace
+
 void Cancellation::Cancel() noexcept
 {
     const std::lock_guard lock(objMutex);
@@ -87,12 +94,16 @@ auto LoggingConnection::Watched(const std::string& sql, Run run, Rows rows)
     for (const auto& observer : lstObservers)
         observer->Begins(sql, strName);
 
-    StatementRecord record{sql, strName, 0, -1, std::nullopt};
+    StatementRecord record{.sql = sql, .connection = strName};
     std::exception_ptr failure;
     decltype(run()) result{};
     const auto begin = Clock::now();
     try {
         result = run();
+    } catch (const DatabaseError& e) {
+        record.error = e.what();
+        record.connectionLost = e.Get().strSqlState.starts_with(kConnectionStates);
+        failure = std::current_exception();
     } catch (const std::exception& e) {
         record.error = e.what();
         failure = std::current_exception();

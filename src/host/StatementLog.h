@@ -19,8 +19,9 @@ struct StatementRecord {
     std::string sql;
     std::string connection;  // "account 1": what it is for and a number within the process
     double milliseconds = 0;
-    std::int64_t rows = -1;            // changed or given, -1 if not known
-    std::optional<std::string> error;  // its message
+    std::int64_t rows = -1;                           // changed or given, -1 if not known
+    std::optional<std::string> error = std::nullopt;  // its message
+    bool connectionLost = false;                      // why it failed
 };
 
 // Told by the thread that runs the statement, before and after each.

@@ -66,7 +66,7 @@ TEST(Completion, BashOffersWhatMayFollow)
         {"kavelin ''", commands},
         {"kavelin r", "reports run"},
         {"kavelin --v", "--version"},
-        {"kavelin account ''", "check create export load"},
+        {"kavelin account ''", "check copy create export load"},
         {"kavelin run ''", reports},
         {"kavelin run cap", "capital-share"},
         {"kavelin run capital-share ''", ""},
@@ -114,9 +114,10 @@ TEST(Completion, EveryShellKnowsCommandsOptionsReportsAndKeys)
         const Outcome script = program.Run({"completion", shell});
         EXPECT_EQ(script.exitCode, 0);
         EXPECT_EQ(script.err, "");
-        for (const char* word : {"demo", "reports", "fields", "lookup", "account", "create", "load", "export",
-                                 "query", "completion", "format", "show-sql", "capital-share", "area-table",
-                                 "cinvccode", "IAAreeTable", "zh-CN", "abc-options", "chart", "ActOption"})
+        for (const char* word : {"demo",        "reports",  "fields",        "lookup",     "account",
+                                 "create",      "load",     "export",        "query",      "completion",
+                                 "format",      "show-sql", "capital-share", "area-table", "cinvccode",
+                                 "IAAreeTable", "zh-CN",    "abc-options",   "chart",      "ActOption"})
             EXPECT_NE(script.out.find(word), std::string::npos) << shell << " lacks " << word;
     }
 }

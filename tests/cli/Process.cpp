@@ -116,10 +116,11 @@ Outcome Program::Run(const std::vector<std::string>& arguments, RunOptions optio
     const std::string folder = (options.folder.empty() ? objFolder : options.folder).string();
 
     Channel out(options.outputTerminal), err(options.errorTerminal);
+    Channel keyboard(!options.typed.empty());
     const pid_t child = fork();
     if (child == 0) {
         const int nothing = open("/dev/null", O_RDONLY);
-        dup2(nothing, 0);
+        dup2(options.typed.empty() ? nothing : keyboard.write, 0);
         dup2(out.write, 1);
         dup2(err.write, 2);
         for (int file = 3; file < 64; ++file)
@@ -137,6 +138,7 @@ Outcome Program::Run(const std::vector<std::string>& arguments, RunOptions optio
     Clock::time_point signalled = begin;
     bool interrupted = options.interruptAfter.count() == 0;
     bool killed = options.killAfter.count() == 0;
+    bool typed = options.typed.empty();
     while (out.read >= 0 || err.read >= 0) {
         pollfd files[] = {{out.read, POLLIN, 0}, {err.read, POLLIN, 0}};
         poll(files, 2, 20);
@@ -144,6 +146,8 @@ Outcome Program::Run(const std::vector<std::string>& arguments, RunOptions optio
             out.Take();
         if (files[1].revents != 0)
             err.Take();
+        if (!typed && err.text.ends_with(": "))
+            typed = write(keyboard.read, options.typed.data(), options.typed.size()) > 0;
         if (!interrupted && Clock::now() - begin >= options.interruptAfter) {
             interrupted = true;
             signalled = Clock::now();
@@ -157,7 +161,12 @@ Outcome Program::Run(const std::vector<std::string>& arguments, RunOptions optio
     int status = 0;
     waitpid(child, &status, 0);
 
+    pollfd shown{keyboard.read, POLLIN, 0};
+    if (!options.typed.empty() && poll(&shown, 1, 0) == 1)
+        keyboard.Take();
+
     Outcome outcome;
+    outcome.echo = std::move(keyboard.text);
     outcome.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
     outcome.out = std::move(out.text);
     outcome.err = std::move(err.text);

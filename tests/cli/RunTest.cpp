@@ -145,7 +145,8 @@ TEST_F(RunTest, ColumnsAreChosenByNameOrByTheReport)
 
 TEST_F(RunTest, ASummaryIsGroupedWithTotalsInTheTableOnly)
 {
-    const std::vector<std::string> march = {"run", "stock-summary", "--set", "dVouDate=2008-03-01..2008-03-31"};
+    const std::vector<std::string> march = {"run", "stock-summary", "--set",
+                                            "dVouDate=2008-03-01..2008-03-31"};
     const auto run = [&](std::vector<std::string> more) {
         more.insert(more.begin(), march.begin(), march.end());
         return OnDemo(more);
@@ -182,7 +183,8 @@ TEST_F(RunTest, OnlyASummaryIsGrouped)
         EXPECT_EQ(outcome.exitCode, 2);
         EXPECT_NE(outcome.err.find("neither --group nor --lines"), std::string::npos) << outcome.err;
     }
-    const std::vector<std::string> summary = {"run", "stock-summary", "--set", "dVouDate=2008-03-01..2008-03-31"};
+    const std::vector<std::string> summary = {"run", "stock-summary", "--set",
+                                              "dVouDate=2008-03-01..2008-03-31"};
     const auto refused = [&](std::vector<std::string> more, const std::string& why) {
         more.insert(more.begin(), summary.begin(), summary.end());
         const Outcome outcome = OnDemo(more);
@@ -192,7 +194,8 @@ TEST_F(RunTest, OnlyASummaryIsGrouped)
     refused({"--group", "warehose"}, "Did you mean warehouse?");
     refused({"--group", "item", "--lines"}, "--lines shows rows that are not grouped");
     const Outcome help = objProgram.Run({"run", "stock-summary", "--help"});
-    EXPECT_NE(help.out.find("item, warehouse, class, free, rd, business, document"), std::string::npos) << help.out;
+    EXPECT_NE(help.out.find("item, warehouse, class, free, rd, business, document"), std::string::npos)
+        << help.out;
 }
 
 TEST_F(RunTest, ALimitCutsWhatIsPutOut)

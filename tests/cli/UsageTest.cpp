@@ -54,6 +54,8 @@ TEST(Usage, WrongUseIsOneLineOnStderrAndExitCode2)
         {{"query"}, "query needs the T-SQL to run"},
         {{"query", "select 1", "--format", "yaml"}, "--format takes table, csv or json, not \"yaml\"."},
         {{"query", "select 1", "--limit", "5"}, "kavelin query has no option --limit."},
+        {{"doctor"}, "No account is named."},
+        {{"doctor", "--format", "csv"}, "doctor takes --format table or json, not \"csv\"."},
         {{"completion"}, "completion needs the name of a shell"},
         {{"completion", "csh"}, "completion knows bash, zsh and fish, not \"csh\"."},
         {{"demo", "--lines", "many"}, "--lines takes a whole number from"},

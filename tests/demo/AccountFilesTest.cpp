@@ -2,8 +2,8 @@
 
 #include "demo/DemoCompany.h"
 #include "demo/NewAccount.h"
-#include "demo/Scripts.h"
 #include "demo/QueryRows.h"
+#include "demo/Scripts.h"
 #include "frame/Errors.h"
 
 #include <gtest/gtest.h>

@@ -3,6 +3,7 @@
 #include "filter/Dialog.h"
 #include "filter/FilterIdentities.h"
 #include "frame/Text.h"
+#include "support/Scenario.h"
 
 #include <gtest/gtest.h>
 
@@ -87,6 +88,7 @@ TEST(Dialogs, SendTheStatementsOfTheirScenarios)
         ModPub().gstrLanguage = "zh-CN";
         Dialog dialog(host, c.identity, c.fields);
         dialog.Open();
+        ExpectScenario(host, "clsFilterControl", std::string("filter/") + c.name);
         SendLookups(dialog, c.fields);
         dialog.FirstView();
         EXPECT_FALSE(dialog.Click()) << c.name;

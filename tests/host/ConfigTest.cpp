@@ -129,12 +129,52 @@ TEST_F(ConfigTest, TakesPasswordsFromTheEnvironmentOnly)
     EXPECT_EQ(Load().Password(Load().Account("demo")), "secret");
 
     const std::string hint =
-        "a connection string holds no password here: name an account in kavelin.toml whose "
-        "password_env names an environment variable.";
-    for (const char* text : {"Server=s;Password=secret", "Server=s; pwd =secret"})
+        "a connection string holds no password here: put it into the environment variable KAVELIN_PASSWORD, "
+        "or name another one by password_env of an account in kavelin.toml.";
+    for (const char* text :
+         {"Server=s;Password=secret", "Server=s; pwd =secret", "Server='s;t';PWD = \"se;cret\""})
         EXPECT_EQ(Refusal([&] { Load().Account(text); }), "account: " + hint);
     Work("[accounts.demo]\nconnection = \"Server=s;PWD=secret\"\n");
     EXPECT_EQ(Refusal([&] { Load(); }), "~/here/kavelin.toml, line 2: accounts.demo.connection: " + hint);
+}
+
+constexpr const char* kServer = "Provider=SQLOLEDB;Data Source=tcp:db,1433;Initial Catalog=Books;User ID=sa";
+
+TEST_F(ConfigTest, TakesThePasswordOfAServerFromItsOwnVariableThenTheCommonOneThenTheUser)
+{
+    Work(std::string("[accounts.books]\nconnection = \"") + kServer + "\"\npassword_env = \"BOOKS\"\n");
+    std::string asked;
+    ConfigSources sources = Sources();
+    sources.askPassword = [&](const std::string& question) {
+        asked = question;
+        return std::optional<std::string>("typed");
+    };
+    const Config config = Config::Load({}, sources);
+    EXPECT_EQ(config.Password(config.Account(kServer)), "typed");
+    EXPECT_EQ(asked, "Password for tcp:db,1433: ");
+
+    dicEnvironment["KAVELIN_PASSWORD"] = "common";
+    asked.clear();
+    EXPECT_EQ(config.Password(config.Account(kServer)), "common");
+    dicEnvironment["BOOKS"] = "own";
+    EXPECT_EQ(config.Password(config.Account("books")), "own");
+    EXPECT_EQ(asked, "");
+}
+
+TEST_F(ConfigTest, NamesTheVariableWhereNobodyTellsThePasswordOfAServer)
+{
+    EXPECT_EQ(
+        Refusal([&] { Load().Password(Load().Account(kServer)); }),
+        "The login to tcp:db,1433 takes a password: put it into the environment variable KAVELIN_PASSWORD, "
+        "or name another one by password_env in kavelin.toml.");
+}
+
+TEST_F(ConfigTest, AsksForNoPasswordWhereTheLoginTakesNone)
+{
+    for (const char* text :
+         {"Embedded Account=x", "Provider=SQLOLEDB;Data Source=db;Integrated Security=SSPI;User ID=me",
+          "Driver=/lib/sqlite.so;Database=file", "DSN=books"})
+        EXPECT_EQ(Load().Password(Load().Account(text)), "") << text;
 }
 
 TEST_F(ConfigTest, NamesFileLineAndSettingOfWhatMakesNoSense)

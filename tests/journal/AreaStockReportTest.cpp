@@ -3,6 +3,7 @@
 #include "journal/AreaStockStatements.h"
 #include "journal/clsAreaStockReport.h"
 #include "support/RecordingHost.h"
+#include "support/Scenario.h"
 
 #include <gtest/gtest.h>
 
@@ -74,6 +75,7 @@ TEST(clsAreaStockReport, SendsTheStatementsOfItsScenarios)
         host.Answers().args = c.args;
         clsAreaStockReport().GETSQL(*host.EarlyArgument());
         ExpectStatements(host.Sent(), std::string("area-table/") + c.name);
+        ExpectScenario(host, "clsAreaStockReport", std::string("area-table/") + c.name);
     }
 }
 

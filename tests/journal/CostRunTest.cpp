@@ -5,6 +5,7 @@
 #include "journal/CostColumns.h"
 #include "journal/clsStaCostacc.h"
 #include "support/RecordingHost.h"
+#include "support/Scenario.h"
 
 #include <gtest/gtest.h>
 
@@ -30,6 +31,7 @@ void ExpectRun(const std::string& name, const std::vector<FakeField>& fields)
     clsStaCostacc().GETSQL(*host.EarlyArgument());
     EXPECT_EQ(ConnectionsLeft(), "gcnnAccount=nothing gcnnSystem=nothing gobjLogin=set");
     ExpectStatements(host.Sent(), "standard-cost-journal/" + name);
+    ExpectScenario(host, "clsStaCostacc", "standard-cost-journal/" + name);
 }
 
 std::vector<std::string> Texts(RecordingHost& host)

@@ -457,7 +457,7 @@ TEST(ADrillDown, IsReachedByNameToo)
     EXPECT_EQ(LinesOf(host, {"Corvane.clsUniVch.Show"}),
               "Corvane.clsUniVch.ShowVoucher(connection #1, '工业', '2501', '70', nothing, Login)\n"
               "Corvane.clsUniVch.ShowVoucher(connection #2, '工业', '02', '70', nothing, Login)\n");
-    EXPECT_THROW(report->Call("Execute", {HostObjectPtr(host.LateRowArgument("", {}))}), Error);
+    EXPECT_THROW(report->Call("Execute", {HostObjectPtr(host.Filter())}), Error) << "no row";
 }
 
 // ---- failures

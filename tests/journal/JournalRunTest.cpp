@@ -4,6 +4,7 @@
 #include "journal/WtPasses.h"
 #include "journal/WtTable.h"
 #include "support/RecordingHost.h"
+#include "support/Scenario.h"
 
 #include <gtest/gtest.h>
 
@@ -177,6 +178,7 @@ TEST(ClsWtInfo, SendsTheStatementsOfItsScenarios)
         ClsWtInfo report;
         report.GETSQL(*host.EarlyArgument());
         ExpectStatements(host.Sent(), std::string("journal/") + c.name);
+        ExpectScenario(host, "ClsWtInfo", std::string("journal/") + c.name);
         EXPECT_EQ(ConnectionsLeft(), "gcnnAccount=nothing gcnnSystem=nothing gobjLogin=set") << c.name;
         EXPECT_EQ(report.sarn_tmpTable(), "WtResult");
         EXPECT_EQ(report.TempTablename(), "");

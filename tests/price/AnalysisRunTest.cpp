@@ -5,6 +5,7 @@
 #include "price/ReferencePriceStatements.h"
 #include "price/clsIaAnalysis.h"
 #include "support/RecordingHost.h"
+#include "support/Scenario.h"
 
 #include <gtest/gtest.h>
 
@@ -147,6 +148,7 @@ TEST(ThePriceAnalysis, SendsTheStatementsOfItsScenarios)
         EXPECT_EQ(ConnectionsLeft(), "gcnnAccount=nothing gcnnSystem=nothing gobjLogin=set");
         EXPECT_FALSE(ShowsAMessage(host)) << scenario.name;
         ExpectStatements(host.Sent(), std::string("price-analysis/") + scenario.name);
+        ExpectScenario(host, "clsIaAnalysis", std::string("price-analysis/") + scenario.name);
     }
 }
 

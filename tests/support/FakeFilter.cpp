@@ -146,7 +146,7 @@ class FakeFilter::Arguments : public NamedValues {
 };
 
 FakeFilter::FakeFilter(std::shared_ptr<EventLog> events, const std::vector<FakeField>& fields)
-    : objEvents(std::move(events))
+    : objEvents(std::move(events)), lstFields(fields)
 {
     for (const FakeField& field : fields)
         lstItems.push_back(std::make_shared<Item>(objEvents, field));

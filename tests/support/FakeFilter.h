@@ -32,6 +32,9 @@ class FakeFilter : public ReportFilterObject {
     // The token that was last stored in each item, in order; -1 where none was.
     std::vector<std::int32_t> Tokens() const;
 
+    // The items as the test listed them.
+    const std::vector<FakeField>& Fields() const { return lstFields; }
+
     std::string filterId;
     std::shared_ptr<LoginContext> login;
 
@@ -70,6 +73,7 @@ class FakeFilter : public ReportFilterObject {
     const Item& Find(const std::string& key) const;
 
     std::shared_ptr<EventLog> objEvents;
+    std::vector<FakeField> lstFields;
     std::vector<std::shared_ptr<Item>> lstItems;
 };
 

@@ -46,11 +46,11 @@ struct HostAnswers {
 
     std::map<std::string, std::string> texts;  // GetResString; the key in "<>" for others
     std::map<std::string, std::string>
-        codes;  // GetEnumCode by shown text; "code of " and the text for others
+        codes;      // GetEnumCode by shown text; "code of " and the text for others
     int month = 7;  // of the login
     std::vector<std::string> accountYears;
     std::map<std::string, std::pair<int, int>> yearMonths;  // by year; 1 to 12 for others
-    std::string paramsYear = "2008";  // of LedgerParams
+    std::string paramsYear = "2008";                        // of LedgerParams
     std::string valueStyle = "按仓库核算";
     std::string inventoryQualifier;
 

@@ -27,11 +27,11 @@ struct OutputOptions {
     std::optional<std::int64_t> limit;  // rows put out at most; the machine forms read no further
     int width = 0;                      // columns of the terminal, 0: as wide as the rows need
     bool colour = false;                // table only
-    bool whole = false;                 // table only: a list of the program's own, all rows without a count below
+    bool whole = false;  // table only: a list of the program's own, all rows without a count below
     // Table only: whether the row on which the set stands is a line, not an opening or a total; empty: all are.
     std::function<bool()> isLine = {};
-    std::vector<TableColumn> columns = {};  // table only
-    TableTotals totals = {};                // table only
+    std::vector<TableColumn> columns = {};   // table only
+    TableTotals totals = {};                 // table only
     std::span<const ColumnMark> marks = {};  // table only
 };
 

@@ -5,6 +5,7 @@
 #include "frame/Errors.h"
 #include "frame/Text.h"
 #include "support/RecordingHost.h"
+#include "support/Scenario.h"
 
 #include <gtest/gtest.h>
 
@@ -81,6 +82,7 @@ TEST(ClsABC, SendsTheStatementsOfItsScenarios)
         Prepare(host, scenario);
         ClsABC().GETSQL(*host.EarlyArgument());
         ExpectStatements(host.Sent(), std::string("abc/") + scenario.name);
+        ExpectScenario(host, "ClsABC", std::string("abc/") + scenario.name);
     }
 }
 

@@ -4,6 +4,7 @@
 #include "frame/Errors.h"
 #include "frame/Text.h"
 #include "support/RecordingHost.h"
+#include "support/Scenario.h"
 
 #include <gtest/gtest.h>
 
@@ -165,6 +166,7 @@ TEST(clsProPortion, SendsTheStatementsOfItsScenarios)
             SwitchPermissionsOn(host);
         clsProPortion().GETSQL(*host.EarlyArgument());
         ExpectStatements(host.Sent(), std::string("capital-share/") + c.name);
+        ExpectScenario(host, "clsProPortion", std::string("capital-share/") + c.name);
         for (const std::int32_t token : host.Filter()->Tokens())
             EXPECT_EQ(token, 1) << c.name;
     }

@@ -4,6 +4,7 @@
 #include "frame/Errors.h"
 #include "frame/Text.h"
 #include "support/RecordingHost.h"
+#include "support/Scenario.h"
 
 #include <gtest/gtest.h>
 
@@ -99,6 +100,7 @@ TEST(clsCinTurnRep, SendsTheStatementsOfItsScenarios)
         Prepare(host, scenario);
         clsCinTurnRep().GETSQL(*host.EarlyArgument());
         ExpectStatements(host.Sent(), std::string("turnover/") + scenario.name);
+        ExpectScenario(host, "clsCinTurnRep", std::string("turnover/") + scenario.name);
     }
 }
 

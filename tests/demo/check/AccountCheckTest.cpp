@@ -2,8 +2,8 @@
 #include "demo/check/AccountCheck.h"
 
 #include "demo/NewAccount.h"
-#include "demo/Scripts.h"
 #include "demo/QueryRows.h"
+#include "demo/Scripts.h"
 
 #include <gtest/gtest.h>
 

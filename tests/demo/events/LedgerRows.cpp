@@ -41,8 +41,8 @@ PlayedYear Play(std::string_view name, std::int64_t lines)
     const MemoryTable& settlements = sink.Table("Pursettlevouchs");
     for (std::size_t i = 0; i < settlements.rows.size(); ++i)
         year.settlements[settlements.Number(i, "ID")] = {settlements.Hundredths(i, "iSVQuantity"),
-                                                          settlements.Hundredths(i, "iSVPrice"),
-                                                          settlements.Hundredths(i, "MaterialFee")};
+                                                         settlements.Hundredths(i, "iSVPrice"),
+                                                         settlements.Hundredths(i, "MaterialFee")};
     return year;
 }
 

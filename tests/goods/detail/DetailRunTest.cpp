@@ -5,6 +5,7 @@
 #include "goods/DetailStatements.h"
 #include "goods/GoodsClauses.h"
 #include "support/RecordingHost.h"
+#include "support/Scenario.h"
 
 #include <gtest/gtest.h>
 
@@ -99,6 +100,7 @@ TEST(ClsOutDetailInfo, SendsTheStatementsOfItsScenarios)
         ClsOutDetailInfo report;
         report.GETSQL(*host.EarlyArgument());
         ExpectStatements(host.Sent(), std::string("goods-cost-ledger/") + c.name);
+        ExpectScenario(host, "ClsOutDetailInfo", std::string("goods-cost-ledger/") + c.name);
         EXPECT_EQ(ConnectionsLeft(), "gcnnAccount=nothing gcnnSystem=nothing gobjLogin=set") << c.name;
         EXPECT_EQ(report.sarn_tmpTable(), "tempdb..result");
         EXPECT_EQ(host.Events().Text().find("ShowMessage"), std::string::npos);

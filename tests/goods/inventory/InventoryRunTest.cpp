@@ -3,6 +3,7 @@
 #include "goods/GoodsClauses.h"
 #include "goods/InventoryStatements.h"
 #include "support/RecordingHost.h"
+#include "support/Scenario.h"
 
 #include <gtest/gtest.h>
 
@@ -84,6 +85,7 @@ TEST(ClsFCInventory, SendsTheStatementsOfItsScenarios)
         ClsFCInventory report;
         report.GETSQL(*host.EarlyArgument());
         ExpectStatements(host.Sent(), std::string("goods-cost-summary/") + c.name);
+        ExpectScenario(host, "ClsFCInventory", std::string("goods-cost-summary/") + c.name);
         EXPECT_EQ(ConnectionsLeft(), "gcnnAccount=nothing gcnnSystem=nothing gobjLogin=set") << c.name;
         EXPECT_EQ(report.sarn_tmpTable(), "tempdb..result");
         EXPECT_EQ(host.Events().Text().find("ShowMessage"), std::string::npos);

@@ -3,6 +3,7 @@
 #include "goods/GoodsSumStatements.h"
 #include "goods/clsFCSumInfo.h"
 #include "support/RecordingHost.h"
+#include "support/Scenario.h"
 
 #include <gtest/gtest.h>
 
@@ -84,6 +85,7 @@ TEST(clsFCSumInfo, SendsTheStatementsOfItsScenarios)
         clsFCSumInfo report;
         report.GETSQL(*host.EarlyArgument());
         ExpectStatements(host.Sent(), std::string("goods-summary/") + c.name);
+        ExpectScenario(host, "clsFCSumInfo", std::string("goods-summary/") + c.name);
         EXPECT_FALSE(Happened(host, "new ResourceObject")) << c.name;
     }
 }

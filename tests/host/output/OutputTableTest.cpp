@@ -177,10 +177,11 @@ TEST(OutputTable, ShowsHeadingsInThePlaceOfNames)
     FixedRows rows({{"cInvCode", "nvarchar(20)"}, {"n", "int"}}, {{"A-01", 5}});
     TableOptions options;
     options.columns = {{"CINVCODE", "存货"}};
-    EXPECT_EQ(Table(rows, options), "存货  n\n"
-                                    "────  ─\n"
-                                    "A-01  5\n"
-                                    "1 row.\n");
+    EXPECT_EQ(Table(rows, options),
+              "存货  n\n"
+              "────  ─\n"
+              "A-01  5\n"
+              "1 row.\n");
 }
 
 TEST(OutputTable, LeavesOutColumnsByTheirRankAndNamesThemAsTheMachineFormsDo)
@@ -189,11 +190,12 @@ TEST(OutputTable, LeavesOutColumnsByTheirRankAndNamesThemAsTheMachineFormsDo)
     TableOptions options;
     options.columns = {{"b", "Heading", false, 2}};
     options.width = 14;
-    EXPECT_EQ(Table(rows, options), "a      c\n"
-                                    "─────  ─\n"
-                                    "first  3\n"
-                                    "1 row.\n"
-                                    "No room for 1 column: b. The csv and json forms show all.\n");
+    EXPECT_EQ(Table(rows, options),
+              "a      c\n"
+              "─────  ─\n"
+              "first  3\n"
+              "1 row.\n"
+              "No room for 1 column: b. The csv and json forms show all.\n");
 }
 
 // Whatever order its columns have, and however few rows the limit lets through.
@@ -205,12 +207,13 @@ TEST(OutputTable, SetsTotalsBelowTheColumnsOfTheirNames)
     TableOptions options;
     options.totals = {&totals, "Total"};
     options.limit = 1;
-    EXPECT_EQ(Table(rows, options), "code   name  n         m\n"
-                                    "─────  ────  ─  ────────\n"
-                                    "A      x     1      0.50\n"
-                                    "─────  ────  ─  ────────\n"
-                                    "Total        3  1,234.75\n"
-                                    "The first 1 row. There are more.\n");
+    EXPECT_EQ(Table(rows, options),
+              "code   name  n         m\n"
+              "─────  ────  ─  ────────\n"
+              "A      x     1      0.50\n"
+              "─────  ────  ─  ────────\n"
+              "Total        3  1,234.75\n"
+              "The first 1 row. There are more.\n");
 }
 
 TEST(OutputTable, ShowsNoTotalsOfNoRows)

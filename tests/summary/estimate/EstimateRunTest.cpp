@@ -4,6 +4,7 @@
 #include "summary/EstimatePasses.h"
 #include "summary/clsLastRep.h"
 #include "support/RecordingHost.h"
+#include "support/Scenario.h"
 
 #include <gtest/gtest.h>
 
@@ -123,6 +124,7 @@ TEST(clsLastRep, SendsTheStatementsOfItsScenarios)
         Prepare(host, scenario);
         clsLastRep().GETSQL(*host.LateArgument());
         ExpectStatements(host.Sent(), std::string("estimate-balance/") + scenario.name);
+        ExpectScenario(host, "clsLastRep", std::string("estimate-balance/") + scenario.name);
     }
 }
 

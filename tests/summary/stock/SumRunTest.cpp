@@ -4,6 +4,7 @@
 #include "summary/clsIASFCReport.h"
 #include "summary/clsSfcSumInfo.h"
 #include "summary/stock/SummaryRun.h"
+#include "support/Scenario.h"
 
 #include <gtest/gtest.h>
 
@@ -130,6 +131,7 @@ TEST(TheStockSummary, SendsTheStatementsOfItsScenarios)
         c.prepare(host);
         clsSfcSumInfo().GETSQL(*host.EarlyArgument());
         ExpectStatements(host.Sent(), std::string("stock-summary/") + c.name);
+        ExpectScenario(host, "clsSfcSumInfo", std::string("stock-summary/") + c.name);
         EXPECT_EQ(ConnectionsLeft(), "gcnnAccount=closed gcnnSystem=open gobjLogin=set") << c.name;
     }
 }

@@ -1,0 +1,6 @@
+' The turnover lets every error of a statement through.
+' scenario: turnover/usual
+ProvideAll
+ScenarioOfRuns = "scenario.txt"
+ExpectFailuresOfStatements "clsCinTurnRep", 0
+Report.Finish

@@ -4,8 +4,6 @@
 #include "automation/Views.h"
 #include "database/ado/AdoConnection.h"
 
-#include <random>
-
 namespace kavelin::automation {
 
 std::shared_ptr<Connection> NamedPlatform::CreateConnection()
@@ -62,18 +60,6 @@ std::shared_ptr<XmlDocument> NamedPlatform::CreateXmlDocument()
 std::shared_ptr<FormHost> NamedPlatform::CreateFormHost()
 {
     return ViewOf<FormHost>(Make(kFormHostName));
-}
-
-Guid NamedPlatform::CreateGuid()
-{
-    std::random_device random;
-    std::uniform_int_distribution<unsigned> anyByte(0, 255);
-    Guid guid;
-    for (std::uint8_t& byte : guid)
-        byte = static_cast<std::uint8_t>(anyByte(random));
-    guid[6] = static_cast<std::uint8_t>((guid[6] & 0x0F) | 0x40);  // version
-    guid[8] = static_cast<std::uint8_t>((guid[8] & 0x3F) | 0x80);  // variant
-    return guid;
 }
 
 std::shared_ptr<LateBound> NamedPlatform::CreateObject(const std::string& name)

@@ -10,8 +10,8 @@
 
 namespace kavelin::automation {
 
-// Names are those of ObjectNames.h. What a system does better by itself is overridden: GUIDs, settings, the
-// sound of a message, the machine's name.
+// Names are those of ObjectNames.h. A platform derived from it makes its GUIDs, and overrides what its system does
+// better by itself: settings, the sound of a message, the machine's name.
 class NamedPlatform : public Platform {
   public:
     // `fallback` makes what the host doesn't provide; null if nothing does.
@@ -28,7 +28,6 @@ class NamedPlatform : public Platform {
     std::shared_ptr<SettingsStore> CreateSettingsStore() override;
     std::shared_ptr<XmlDocument> CreateXmlDocument() override;
     std::shared_ptr<FormHost> CreateFormHost() override;
-    Guid CreateGuid() override;  // random, of version 4
     void Beep() override {}
     std::shared_ptr<LateBound> CreateObject(const std::string& name) override;
 

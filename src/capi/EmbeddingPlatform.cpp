@@ -134,4 +134,9 @@ std::shared_ptr<XmlDocument> EmbeddingPlatform::CreateXmlDocument()
     return host::CreateXml();
 }
 
+Guid EmbeddingPlatform::CreateGuid()
+{
+    return host::RandomGuid();
+}
+
 }  // namespace kavelin::capi

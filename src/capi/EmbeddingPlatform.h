@@ -25,6 +25,7 @@ class EmbeddingPlatform : public automation::NamedPlatform {
     std::shared_ptr<ClientNumber> CreateClientNumber() override;
     std::shared_ptr<SettingsStore> CreateSettingsStore() override;
     std::shared_ptr<XmlDocument> CreateXmlDocument() override;
+    Guid CreateGuid() override;
 };
 
 }  // namespace kavelin::capi

@@ -2,11 +2,9 @@
 
 #include "frame/Statement.h"
 #include "host/HostErrors.h"
+#include "host/HostMachine.h"
 #include "snapshot/Literal.h"
 
-#include <fmt/format.h>
-
-#include <random>
 #include <utility>
 
 namespace kavelin::snapshot {
@@ -39,12 +37,6 @@ std::string CreateStateTable()
     });
 }
 
-std::string NewMark()
-{
-    std::random_device random;
-    return fmt::format("{:08x}{:08x}{:08x}{:08x}", random(), random(), random(), random());
-}
-
 }  // namespace
 
 CopyState::CopyState(Connection& target) : cnnTarget(target), blnThere(HasStateTable(target))
@@ -67,7 +59,7 @@ void CopyState::Begin(Connection& source)
     if (!blnThere)
         cnnTarget.Execute(CreateStateTable());
     const bool wasThere = std::exchange(blnThere, true);
-    const std::string mark = NewMark();
+    const std::string mark = host::HexDigits(host::RandomGuid());
     Set(std::string(kMark), mark);
     const std::string seen = HasStateTable(source)
                                  ? "select cState from Kavelin_Copy where cTable = " + Literal(kMark) +

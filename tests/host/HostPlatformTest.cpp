@@ -108,8 +108,11 @@ TEST_F(HostPlatformTest, GivesIdentifiersThatNobodyElseHas)
     }
     EXPECT_EQ(numbers.size(), 100u);
     EXPECT_EQ(guids.size(), 100u);
-    for (const std::string& guid : guids)
+    for (const std::string& guid : guids) {
         EXPECT_EQ(guid.size(), 32u);
+        EXPECT_EQ(guid[12], '4') << "version";
+        EXPECT_NE(std::string("89AB").find(guid[16]), std::string::npos) << "variant";
+    }
 }
 
 TEST(IdentifierText, KeepsLettersDigitsAndUnderscoresOnly)

@@ -29,11 +29,12 @@ bool IsFilterKey(const std::string& name)
     return std::ranges::any_of(kFilterKeys, [&](std::string_view key) { return EqualsNoCase(name, key); });
 }
 
-// Documents in a state are asked for by the state's text in the dialog's language, or in Chinese.
+// Documents in a state are asked for by the state's text in the dialog's language, or in Chinese. A language
+// without a text for it, which any value would hold, has the Chinese one only.
 bool AsksFor(const std::string& states, const std::string& state)
 {
     const std::string shown = Resources().GetEnumName("IA.RepWt", state);
-    return states.find(shown) != states.npos || states.find(state) != states.npos;
+    return (!shown.empty() && states.find(shown) != states.npos) || states.find(state) != states.npos;
 }
 
 void ReadStates(const std::string& states, WtConditions& conditions)

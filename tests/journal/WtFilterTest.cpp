@@ -33,6 +33,17 @@ std::string WhereOf(const std::vector<FakeField>& fields)
     return where.substr(kStart.size());
 }
 
+// Of a library that has no text for anything.
+class NoTexts : public ResourceObject {
+  public:
+    void SetLogin(std::shared_ptr<LoginContext> /*login*/) override {}
+    std::string GetResString(const std::string& /*key*/) override { return ""; }
+    std::string GetEnumName(const std::string& /*type*/, const std::string& /*code*/) override { return ""; }
+    std::string GetEnumCode(const std::string& /*type*/, const std::string& text) override { return text; }
+    void ShowMessage(const std::string& /*text*/, int /*icon*/) override {}
+    void Unload() override {}
+};
+
 constexpr bool kRange = true;
 constexpr bool kSeveral = true;
 
@@ -136,6 +147,30 @@ TEST(TranslateWtFilter, KnowsTheStatesInTheDialogsLanguageAndInChinese)
     for (const auto& c : cases) {
         RecordingHost host;
         const WtConditions conditions = Translate(host, {{"vouEstate", c.states}});
+        EXPECT_EQ(conditions.blnAccounted, c.posted) << c.states;
+        EXPECT_EQ(conditions.blnUnAccounted, c.unposted) << c.states;
+    }
+}
+
+// A missing text is found in every value: whoever asks for posted documents would see the others too.
+TEST(TranslateWtFilter, KnowsAStateWithoutATextByTheChineseOneOnly)
+{
+    const struct {
+        const char* states;
+        bool posted, unposted;
+    } cases[] = {
+        {"已记账单据", true, false},
+        {"未记账单据", false, true},
+        {"已记账单据,未记账单据", true, true},
+        {"Posted documents", false, false},
+    };
+    for (const auto& c : cases) {
+        RecordingHost host;
+        host.OpenAccount();
+        ModPub().gobjRes = std::make_shared<NoTexts>();
+        host.SetFilter({{"vouEstate", c.states}});
+        WtConditions conditions;
+        TranslateWtFilter(*host.Filter(), conditions);
         EXPECT_EQ(conditions.blnAccounted, c.posted) << c.states;
         EXPECT_EQ(conditions.blnUnAccounted, c.unposted) << c.states;
     }

@@ -70,6 +70,18 @@ TEST_F(DifferenceBalance, SettlesALineTwiceInAMonth)
     EXPECT_EQ(Balance(4), "1: 50.00 500.00, - -, - -, 50.00 500.00\n");
 }
 
+// Of ten pieces that went back, four are settled at 42 instead of 40, six at 57 instead of 60.
+TEST_F(DifferenceBalance, TakesReturnedGoodsWithTheirSign)
+{
+    Add({.id = 1, .month = 3, .quantity = "-10", .money = "-100"});
+    Settle(1, 4, "-2", 1, "-4", "-42");
+    Settle(1, 5, "3", 2, "-6", "-57");
+    EXPECT_EQ(Balance(3), "1: - -, -10.00 -100.00, - -, -10.00 -100.00\n");
+    EXPECT_EQ(Balance(4), "1: -10.00 -100.00, - -, -4.00 -40.00, -6.00 -60.00\n");
+    EXPECT_EQ(Balance(5), "1: -6.00 -60.00, - -, -6.00 -60.00, 0.00 0.00\n");
+    EXPECT_EQ(Balance(6), "");
+}
+
 // The difference is what the settlement line holds in all: 25 + 8 - 3.
 TEST_F(DifferenceBalance, CountsDifferencesToTheMoney)
 {
@@ -217,6 +229,17 @@ TEST_F(ConsignmentBalance, FollowsALineToItsEnd)
     EXPECT_EQ(Balance(4), "1: 100.00 1000.03, - -, 30.00 300.01, 70.00 700.02\n");
     EXPECT_EQ(Balance(5), "1: 70.00 700.02, - -, 20.00 200.01, 50.00 500.01\n");
     EXPECT_EQ(Balance(6), "1: 50.00 500.01, - -, - -, 50.00 500.01\n");
+}
+
+// A red receipt: all of its document at the document's money, what is settled of it at its unit cost.
+TEST_F(ConsignmentBalance, TakesReturnedGoodsWithTheirSign)
+{
+    Add({.id = 1, .month = 3, .quantity = "-100", .money = "-1000.03", .business = kConsigned});
+    AddReceipt(1, "-100", "-1000.03", "10.0003");
+    Settle(1, 4, 1, "-30");
+    EXPECT_EQ(Balance(3), "1: - -, -100.00 -1000.03, - -, -100.00 -1000.03\n");
+    EXPECT_EQ(Balance(4), "1: -100.00 -1000.03, - -, -30.00 -300.01, -70.00 -700.02\n");
+    EXPECT_EQ(Balance(5), "1: -70.00 -700.02, - -, - -, -70.00 -700.02\n");
 }
 
 // The unit cost is 10, all of the document 1,000.01: -100 pieces are all of it turned as an opening only.

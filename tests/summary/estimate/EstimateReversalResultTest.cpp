@@ -64,6 +64,56 @@ TEST_F(MonthReversalBalance, ReadsNoMonthButItsOwn)
     EXPECT_EQ(Balance(4), "");
 }
 
+// 30 pieces settled in May at 330, 70 in June at 690. What is open is taken out at the beginning of each
+// month and brought back at its end.
+TEST_F(MonthReversalBalance, FollowsALineToItsEnd)
+{
+    const auto takeOut = [&](int month, const char* quantity, const char* money) {
+        Add({.id = 1, .month = month, .type = "24", .quantity = quantity, .money = money, .source = "01"});
+    };
+    const auto bringBack = [&](int month, const char* quantity, const char* money, int flag) {
+        Add({.id = 1,
+             .month = month,
+             .type = "30",
+             .quantity = quantity,
+             .money = money,
+             .flag = flag,
+             .source = "01"});
+    };
+    Add({.id = 1, .month = 3, .quantity = "100", .money = "1000"});
+    takeOut(4, "-100", "-1000");
+    bringBack(4, "100", "1000", 1);
+    takeOut(5, "-100", "-1000");
+    bringBack(5, "30", "330", 0);
+    bringBack(5, "70", "700", 1);
+    takeOut(6, "-70", "-700");
+    bringBack(6, "70", "690", 0);
+    for (const int month : {3, 4, 5, 6, 7})
+        Add(SummaryRow{.month = month});
+    EXPECT_EQ(Balance(2), "");
+    EXPECT_EQ(Balance(3), "1: - -, 100.00 1000.00, 0.00 0.00, 100.00 1000.00\n");
+    EXPECT_EQ(Balance(4), "1: 100.00 1000.00, - -, 0.00 0.00, 100.00 1000.00\n");
+    EXPECT_EQ(Balance(5), "1: 100.00 1000.00, - -, 30.00 300.00, 70.00 700.00\n");
+    EXPECT_EQ(Balance(6), "1: 70.00 700.00, - -, 70.00 700.00, - -\n");
+    EXPECT_EQ(Balance(7), "");
+}
+
+// Of five pieces that went back, two are settled in May.
+TEST_F(MonthReversalBalance, TakesReturnedGoodsWithTheirSign)
+{
+    Add({.id = 1, .month = 3, .quantity = "-5", .money = "-50"});
+    Add({.id = 1, .month = 4, .type = "24", .quantity = "5", .money = "50", .source = "01"});
+    Add({.id = 1, .month = 4, .type = "30", .quantity = "-5", .money = "-50", .source = "01"});
+    Add({.id = 1, .month = 5, .type = "24", .quantity = "5", .money = "50", .source = "01"});
+    Add({.id = 1, .month = 5, .type = "30", .quantity = "-2", .money = "-22", .flag = 0, .source = "01"});
+    Add({.id = 1, .month = 5, .type = "30", .quantity = "-3", .money = "-30", .source = "01"});
+    for (const int month : {3, 4, 5})
+        Add(SummaryRow{.month = month});
+    EXPECT_EQ(Balance(3), "1: - -, -5.00 -50.00, 0.00 0.00, -5.00 -50.00\n");
+    EXPECT_EQ(Balance(4), "1: -5.00 -50.00, - -, 0.00 0.00, -5.00 -50.00\n");
+    EXPECT_EQ(Balance(5), "1: -5.00 -50.00, - -, -2.00 -20.00, -3.00 -30.00\n");
+}
+
 // Of 1,000 with 600 of material, the work of 400 is the estimate.
 TEST_F(MonthReversalBalance, LeavesTheMaterialOfSubcontractedWorkOut)
 {
@@ -179,6 +229,23 @@ TEST_F(OpenReversal, StaysInTheClosingForThePartThatWasNotSettled)
               "2: 100.00 1030.00, - -, 30.00 309.00, 70.00 721.00\n");
 }
 
+// Three of five pieces that went back are open: -50 less two at -10 each, and of the differences their share.
+TEST_F(OpenReversal, StaysInTheClosingWithTheSignOfReturnedGoods)
+{
+    Add({.id = 1,
+         .month = 5,
+         .type = "24",
+         .quantity = "5",
+         .money = "50",
+         .source = "01",
+         .debit = "10",
+         .credit = "5",
+         .cost = "10"});
+    Add({.id = 1, .month = 5, .type = "30", .quantity = "-2", .money = "-22", .flag = 0, .source = "01"});
+    Add(SummaryRow{.month = 5});
+    EXPECT_EQ(Balance(5), "1: -5.00 -55.00, - -, -2.00 -22.00, -3.00 -33.00\n");
+}
+
 // 6 of 10 pieces are open: 1,000 less 4 at 100, less the material of 600 that isn't settled yet, 360.
 TEST_F(OpenReversal, LeavesTheMaterialThatIsNotSettledOut)
 {
@@ -269,8 +336,8 @@ TEST_F(OpenReversal, FindsTheRowOfWhatTheAccountValuesBy)
     EXPECT_EQ(open("按存货核算"), "ID\n1\n2\n3\n");
 }
 
-// Item B keeps batches. Warehouse 01 values by moving average, warehouse 02 at planned prices: there the batch
-// is no part of the key. Valued by item it is the item's method that counts.
+// Item B keeps batches. Warehouse 01 values by moving average, warehouse 02 at planned prices: there the
+// batch is no part of the key. Valued by item it is the item's method that counts.
 TEST_F(OpenReversal, FindsTheRowOfItsBatchWhereTheValuationHasBatches)
 {
     Add({.id = 1,
@@ -421,8 +488,41 @@ TEST_F(ArrivalReversalBalance, ReversesAnEstimateOfItsOwnMonth)
 TEST_F(ArrivalReversalBalance, TakesReturnedGoodsWithTheirSign)
 {
     Add({.id = 1, .month = 3, .quantity = "-5", .money = "-50"});
+    Add({.id = 1, .month = 5, .type = "24", .quantity = "5", .money = "50", .source = "01"});
+    Add({.id = 1, .month = 5, .type = "30", .quantity = "-2", .money = "-22", .flag = 0, .source = "01"});
+    Add({.id = 1, .month = 5, .type = "30", .quantity = "-3", .money = "-30", .source = "01"});
+    for (const int month : {3, 4, 5, 6})
+        Add(SummaryRow{.month = month});
     EXPECT_EQ(Balance(3), "1: - -, -5.00 -50.00, 0.00 0.00, -5.00 -50.00\n");
     EXPECT_EQ(Balance(4), "1: -5.00 -50.00, - -, 0.00 0.00, -5.00 -50.00\n");
+    EXPECT_EQ(Balance(5), "1: -5.00 -50.00, - -, -2.00 -20.00, -3.00 -30.00\n");
+    EXPECT_EQ(Balance(6), "1: -3.00 -30.00, - -, 0.00 0.00, -3.00 -30.00\n");
+}
+
+// Settled by 30 and by 20, the line has 170 back: the 50 that are open are lessened by 170 - 100 and by
+// 170 - 70.
+TEST_F(ArrivalReversalBalance, ComparesEachReversalOfAMonthWithAllThatCameBackOfItsLine)
+{
+    const auto book = [&](const char* type, const char* quantity, const char* money, int flag) {
+        Add({.id = 1,
+             .month = 5,
+             .type = type,
+             .quantity = quantity,
+             .money = money,
+             .flag = flag,
+             .source = "01",
+             .cost = "10"});
+    };
+    Add({.id = 1, .month = 3, .quantity = "100", .money = "1000"});
+    book("24", "-100", "-1000", 1);
+    book("30", "30", "330", 0);
+    book("30", "70", "700", 1);
+    book("24", "-70", "-700", 1);
+    book("30", "20", "210", 0);
+    book("30", "50", "500", 1);
+    EXPECT_EQ(Balance(5), "1: 100.00 1000.00, - -, 50.00 500.00, 50.00 500.00\n");  // nothing in the summary
+    Add(SummaryRow{.month = 5});
+    EXPECT_EQ(Balance(5), "1: 100.00 1000.00, - -, 220.00 2200.00, -120.00 -1200.00\n");
 }
 
 TEST_F(ArrivalReversalBalance, LeavesTheMaterialOfSubcontractedWorkOut)

@@ -3,12 +3,12 @@
 #include "cli/Commands.h"
 #include "cli/Help.h"
 #include "cli/Messages.h"
+#include "cli/TextRows.h"
 #include "cli/Work.h"
 #include "demo/AccountFiles.h"
 #include "embedded/EmbeddedAccount.h"
 #include "embedded/engine/ConnectionString.h"
 #include "host/HostErrors.h"
-#include "host/output/DisplayWidth.h"
 #include "host/output/OutputTable.h"
 #include "snapshot/AccountCopy.h"
 
@@ -81,24 +81,12 @@ bool AreSame(const host::AccountLogin& from, const host::AccountLogin& to)
     return fs::weakly_canonical(PathOf(from), ignored) == fs::weakly_canonical(PathOf(to), ignored);
 }
 
-std::string Cell(const std::string& text, int width)
-{
-    return text + std::string(static_cast<std::size_t>(std::max(0, width - host::DisplayWidth(text))), ' ');
-}
-
 void ShowDifferences(const std::vector<snapshot::Difference>& differences)
 {
-    std::vector<snapshot::Difference> lines = {{"table", "what", "source", "target"}};
-    lines.insert(lines.end(), differences.begin(), differences.end());
-    int table = 0, what = 0, source = 0;
-    for (const snapshot::Difference& line : lines) {
-        table = std::max(table, host::DisplayWidth(line.table));
-        what = std::max(what, host::DisplayWidth(line.what));
-        source = std::max(source, host::DisplayWidth(line.source));
-    }
-    for (const snapshot::Difference& line : lines)
-        std::cout << Cell(line.table, table + 2) << Cell(line.what, what + 2) << Cell(line.source, source + 2)
-                  << line.target << '\n';
+    std::vector<TextRows::Row> rows;
+    for (const snapshot::Difference& each : differences)
+        rows.push_back({each.table, each.what, each.source, each.target});
+    WriteList({"table", "what", "source", "target"}, std::move(rows));
 }
 
 void ShowCounts(Connection& source, const snapshot::CopyPlan& plan)
@@ -156,9 +144,7 @@ void Copy(const CopyFlags& flags)
     Work work;
     const host::ConnectionSource connections = work.Connections();
     const auto source = connections.Open("copy source", from.ConnectionText(), "");
-    if (isNew && !flags.dryRun)
-        demo::CreateEmptyAccount(PathOf(to));
-    const auto target = isNew && flags.dryRun ? nullptr : OpenTarget(to, connections);
+    auto target = isNew ? nullptr : OpenTarget(to, connections);
 
     snapshot::CopyOptions options;
     options.choice = {flags.tables, years, from.accountId, to.accountId};
@@ -183,6 +169,10 @@ void Copy(const CopyFlags& flags)
     if (flags.dryRun) {
         ShowCounts(*source, plan);
         return;
+    }
+    if (isNew) {
+        demo::CreateEmptyAccount(PathOf(to));
+        target = OpenTarget(to, connections);
     }
 
     const snapshot::CopyResult result = snapshot::CopyAccount(*source, *target, plan, options);

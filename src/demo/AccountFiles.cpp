@@ -208,7 +208,7 @@ class TableLoader {
 
 void CreateEmptyAccount(const fs::path& account)
 {
-    NewAccount(account).Keep();
+    MakeWhole(account, [](const fs::path& path) { NewAccount(path).Keep(); });
 }
 
 RowCounts LoadFolder(const fs::path& account, const fs::path& folder)

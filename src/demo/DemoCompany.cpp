@@ -47,16 +47,17 @@ void MakeDemoAccount(const std::filesystem::path& account, const Profile& profil
                      std::uint64_t seed, const Progress& progress)
 {
     CheckLines(lines);
-
-    NewAccount files(account);
-    const std::shared_ptr<Connection> connection = ConnectTo(account);
-    RunScripts(*connection, "rows");
-    connection->Close();
-    {
-        AccountSink sink(files.Account());
-        GenerateCompany(profile, lines, seed, sink, progress);
-    }
-    files.Keep();
+    MakeWhole(account, [&](const std::filesystem::path& path) {
+        NewAccount files(path);
+        const std::shared_ptr<Connection> connection = ConnectTo(path);
+        RunScripts(*connection, "rows");
+        connection->Close();
+        {
+            AccountSink sink(files.Account());
+            GenerateCompany(profile, lines, seed, sink, progress);
+        }
+        files.Keep();
+    });
 }
 
 }  // namespace kavelin::demo

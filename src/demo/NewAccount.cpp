@@ -5,8 +5,6 @@
 #include "host/HostConnection.h"
 #include "host/StatementLog.h"
 
-#include <system_error>
-
 namespace kavelin::demo {
 
 std::shared_ptr<Connection> ConnectTo(const std::filesystem::path& account)
@@ -18,6 +16,22 @@ std::shared_ptr<Connection> ConnectTo(const std::filesystem::path& account)
         .Open("account", host::EmbeddedConnectionString(account.string(), "zh-CN"), "");
 }
 
+void MakeWhole(const std::filesystem::path& account,
+               const std::function<void(const std::filesystem::path&)>& make)
+{
+    const std::string whole = account.string(), part = whole + ".part";
+    const std::string wholeSystem = embedded::SystemFileOf(whole);
+    // The system database gets its name first, so one that stands alone beside a part is that part's.
+    if (std::filesystem::exists(part) && !std::filesystem::exists(account))
+        std::filesystem::remove(wholeSystem);
+    embedded::RemoveAccountFiles(part);
+    embedded::CheckNewAccountPath(whole);
+
+    make(part);
+    std::filesystem::rename(embedded::SystemFileOf(part), wholeSystem);
+    std::filesystem::rename(part, account);
+}
+
 NewAccount::Files::Files(std::string path) : account(std::move(path))
 {
     embedded::CreateAccount(account);
@@ -25,13 +39,8 @@ NewAccount::Files::Files(std::string path) : account(std::move(path))
 
 NewAccount::Files::~Files()
 {
-    if (kept)
-        return;
-    for (const std::string& file : {account, embedded::SystemFileOf(account)})
-        for (const char* ending : {"", ".wal"}) {
-            std::error_code ignored;
-            std::filesystem::remove(file + ending, ignored);
-        }
+    if (!kept)
+        embedded::RemoveAccountFiles(account);
 }
 
 NewAccount::NewAccount(const std::filesystem::path& account)

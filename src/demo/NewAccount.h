@@ -5,6 +5,7 @@
 #include "frame/Connection.h"
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -13,6 +14,12 @@ namespace kavelin::demo {
 // An open connection to an embedded account, whose statements are logged where KAVELIN_SQL_LOG says. Throws
 // ConnectionError.
 std::shared_ptr<Connection> ConnectTo(const std::filesystem::path& account);
+
+// Lets `make` make an account at the path that it is given, `account` with `.part` behind it, and then gives the
+// files their own names: a program that ends meanwhile leaves nothing that looks like an account, and what such
+// a one left is taken away. Throws ConnectionError if one of the files is there already, and what `make` throws.
+void MakeWhole(const std::filesystem::path& account,
+               const std::function<void(const std::filesystem::path&)>& make);
 
 class NewAccount {
   public:

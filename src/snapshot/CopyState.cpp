@@ -82,11 +82,14 @@ void CopyState::SetWhole(const std::string& table)
     Set(table, std::string(kWhole));
 }
 
+// One statement, so that a copy that ends at any moment leaves a table known that holds its rows.
 void CopyState::Set(const std::string& table, const std::string& state)
 {
-    cnnTarget.Execute("delete from Kavelin_Copy where cTable = " + Literal(table));
-    cnnTarget.Execute("insert into Kavelin_Copy (cTable, cState) values (" + Literal(table) + ", " +
-                      Literal(state) + ")");
+    const std::string row = Literal(table), content = Literal(state);
+    if (dicStates.contains(table))
+        cnnTarget.Execute("update Kavelin_Copy set cState = " + content + " where cTable = " + row);
+    else
+        cnnTarget.Execute("insert into Kavelin_Copy (cTable, cState) values (" + row + ", " + content + ")");
     dicStates[table] = state;
 }
 

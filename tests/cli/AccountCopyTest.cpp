@@ -101,6 +101,31 @@ TEST_F(AccountCopyCommand, GoesOnAfterItWasKilled)
     EXPECT_EQ(Rows("b.kavelin", "select count(*) as n from IA_Subsidiary"), "3000\r\n");
 }
 
+TEST_F(AccountCopyCommand, MakesTheTargetAnewThatWasOnlyBegun)
+{
+    program.Write("b.kavelin.part", "begun");
+    program.Write("b.kavelin.part.wal", "begun");
+    program.Write("b.system.kavelin", "begun");
+    const Outcome copied = Copy({DemoAccount(), "./b.kavelin", "--tables", "Inventory"});
+    EXPECT_EQ(copied.exitCode, 0) << copied.err;
+    EXPECT_EQ(program.Files(), (std::vector<std::string>{"b.kavelin", "b.system.kavelin"}));
+    EXPECT_EQ(Rows("b.kavelin", "select count(*) as n from Inventory"),
+              Rows(DemoAccount(), "select count(*) as n from Inventory"));
+}
+
+TEST_F(AccountCopyCommand, MakesNothingForACopyThatCannotBegin)
+{
+    EXPECT_EQ(Copy({DemoAccount(), "./b.kavelin", "--tables", "Inventry"}).exitCode, 2);
+    EXPECT_EQ(program.Files(), std::vector<std::string>{});
+
+    program.Write("b.system.kavelin", "another's");
+    const Outcome refused = Copy({DemoAccount(), "./b.kavelin"});
+    EXPECT_EQ(refused.exitCode, 3);
+    EXPECT_NE(refused.err.find("b.system.kavelin' is there already."), std::string::npos) << refused.err;
+    EXPECT_EQ(program.Files(), std::vector<std::string>{"b.system.kavelin"});
+    EXPECT_EQ(program.Read("b.system.kavelin"), "another's");
+}
+
 TEST_F(AccountCopyCommand, GoesToAServerAndBack)
 {
     test::tds::TdsAccount server;

@@ -68,6 +68,19 @@ TEST(DemoCommand, TellsToDeleteTheDemoOfAnOlderVersion)
         << refused.err;
 }
 
+TEST(DemoCommand, MakesTheDemoAnewThatWasKilledWhileItWasMade)
+{
+    const Program program;
+    for (const int moment : {30, 100, 200, 400}) {
+        RunOptions killed;
+        killed.killAfter = std::chrono::milliseconds(moment);
+        program.Run({"demo", "--lines", "20000", "--account", "d.kavelin"}, killed);
+    }
+    const Outcome made = program.Run({"demo", "--lines", "20000", "--account", "d.kavelin"});
+    EXPECT_EQ(made.exitCode, 0) << made.err;
+    EXPECT_EQ(program.Files(), (std::vector<std::string>{"d.kavelin", "d.system.kavelin"}));
+}
+
 TEST(DemoCommand, PutsEachProfileBesideTheDefaultOne)
 {
     const Program program;

@@ -205,6 +205,85 @@ TEST_F(AccountCopyTest, RefusesANullWhereNoneMayStand)
     EXPECT_EQ(RefusalOf(), "Table Vendor, cVenCode N'V1', column cVenName: the column takes no NULL.");
 }
 
+// Lets some statements through and fails at all others, as if the program had ended there.
+class EndingConnection : public Connection {
+  public:
+    EndingConnection(Connection& inner, int statements) : cnnInner(inner), lngLeft(statements) {}
+
+    void SetCursorLocation(CursorLocation) override {}
+    void SetConnectionString(const std::string&) override {}
+    void SetConnectionTimeout(std::int32_t) override {}
+    void SetCommandTimeout(std::int32_t) override {}
+    void Open(const std::string&, const std::string&, std::int32_t) override {}
+    void Close() override {}
+    ConnectionState State() const override { return cnnInner.State(); }
+    void Cancel() noexcept override {}
+
+    std::int64_t Execute(const std::string& sql) override
+    {
+        Count();
+        return cnnInner.Execute(sql);
+    }
+    std::unique_ptr<Recordset> OpenRecordset(const std::string& sql, CursorLocation location, CursorType type,
+                                             LockType lock) override
+    {
+        Count();
+        return cnnInner.OpenRecordset(sql, location, type, lock);
+    }
+
+  private:
+    void Count()
+    {
+        if (--lngLeft >= 0)
+            return;
+        DatabaseError::Details details;
+        details.strMessage = "ended";
+        throw DatabaseError(details);
+    }
+
+    Connection& cnnInner;
+    int lngLeft;
+};
+
+class EndingTarget : public CopyTarget {
+  public:
+    EndingTarget(CopyTarget& inner, int statements) : objInner(inner), cnnAccount(inner.Account(), statements)
+    {
+    }
+
+    Connection& Account() override { return cnnAccount; }
+    bool MayDropViews() const override { return objInner.MayDropViews(); }
+    std::unique_ptr<RowWriter> Open(const SchemaObject& table, const Columns& columns) override
+    {
+        return objInner.Open(table, columns);
+    }
+
+  private:
+    CopyTarget& objInner;
+    EndingConnection cnnAccount;
+};
+
+TEST_F(AccountCopyTest, GoesOnAfterItEndedAtAnyStatement)
+{
+    CopyOptions options;
+    options.choice.tables = {"Inventory", "Pursettlevouchs"};
+    bool ended = true;
+    for (int statements = 0; ended; ++statements) {
+        copy.Run("delete from Inventory");
+        copy.Run("delete from Pursettlevouchs");
+        copy.Run(
+            "if exists (select name from sysobjects where name = N'Kavelin_Copy') drop table Kavelin_Copy");
+        EndingTarget ending(*target, statements);
+        const std::string refusal = Refusal(source.Account(), ending, options);
+        ended = refusal == "ended";
+        EXPECT_TRUE(ended || refusal == "nothing was refused") << refusal;
+        EXPECT_EQ(RefusalOf(options), "nothing was refused") << "after " << statements << " statements";
+        for (const std::string sql :
+             {"select * from Inventory order by cInvCode", "select * from Pursettlevouchs order by ID"})
+            EXPECT_EQ(copy.Rows(sql), source.Rows(sql)) << "after " << statements << " statements";
+    }
+}
+
 // Hands rows on, but changes one value on the way.
 class Tampered : public CopyTarget {
   public:

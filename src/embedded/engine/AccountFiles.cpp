@@ -136,11 +136,18 @@ void AttachAccount(Session& session, const std::string& accountPath)
     CheckMark(session, systemPath, kSystemName);
 }
 
-void CreateAccountFiles(const std::string& path)
+void RemoveAccountFiles(const std::string& path)
+{
+    std::error_code ignored;
+    for (const std::string& file : {path, SystemFileOf(path)})
+        for (const char* ending : {".wal", ""})
+            fs::remove(PathOf(file + ending), ignored);
+}
+
+void CheckNewAccountPath(const std::string& path)
 {
     std::error_code error;
-    const std::string systemPath = SystemFileOf(path);
-    for (const std::string& file : {path, systemPath})
+    for (const std::string& file : {path, SystemFileOf(path)})
         if (fs::exists(fs::symlink_status(PathOf(file), error)))
             throw Refusal("The file '" + file + "' is there already.");
     const fs::path folder = fs::absolute(PathOf(path), error).parent_path();
@@ -148,16 +155,19 @@ void CreateAccountFiles(const std::string& path)
         throw Refusal("There is no folder '" + TextOf(folder) + "' for the account.");
     if (!CanWriteIn(folder))
         throw Refusal("The account '" + path + "' cannot be made: its folder cannot be written.");
+}
 
+void CreateAccountFiles(const std::string& path)
+{
+    CheckNewAccountPath(path);
+    const std::string systemPath = SystemFileOf(path);
     try {
         DuckDatabase database;
         Session session(database);
         MakeFile(session, path, kAccountName);
         MakeFile(session, systemPath, kSystemName);
     } catch (const DuckError& failure) {
-        for (const std::string& file : {path, systemPath})
-            for (const char* ending : {"", ".wal"})
-                fs::remove(PathOf(file + ending), error);
+        RemoveAccountFiles(path);
         throw Refusal("The account '" + path + "' cannot be made: " + WordsOf(failure));
     }
 }

@@ -21,8 +21,13 @@ std::string CheckedAccountPath(const std::string& path);
 // sentence of its own, if another process holds them or if one is no account.
 void AttachAccount(Session& session, const std::string& accountPath);
 
-// Makes the two files. Throws ConnectionError if one is there already, or if they cannot be made; it then
-// leaves none behind.
+// Throws ConnectionError if one of the two files is there already, or if their folder cannot be written.
+void CheckNewAccountPath(const std::string& path);
+
+// Makes the two files. Throws as CheckNewAccountPath does, or if they cannot be made; it then leaves none behind.
 void CreateAccountFiles(const std::string& path);
+
+// Takes the two files away, with what DuckDB keeps beside them; those that are absent don't matter.
+void RemoveAccountFiles(const std::string& path);
 
 }  // namespace kavelin::embedded

@@ -34,6 +34,12 @@ std::vector<OwnedVariant> Reversed(const std::vector<Variant>& arguments)
     return reversed;
 }
 
+// Whether a variant may have another content than before. A text may have: another one may lie where it lay.
+bool IsExchanged(const VARIANT& before, const VARIANT& after)
+{
+    return after.vt == VT_BSTR || std::memcmp(&before, &after, sizeof(VARIANT)) != 0;
+}
+
 // Owned variants lie in memory as the variants that they own.
 static_assert(sizeof(OwnedVariant) == sizeof(VARIANT));
 
@@ -157,7 +163,7 @@ Variant ForeignObject::CallByReference(std::string_view member, std::vector<Vari
     }
     const auto takeBack = [&] {
         for (std::size_t i = 0; i < held.size(); ++i)
-            if (std::memcmp(&held[i].Get(), &before[i], sizeof(VARIANT)) != 0)
+            if (IsExchanged(before[i], held[i].Get()))
                 arguments[held.size() - 1 - i] = FromAutomation(held[i].Get());
     };
     Variant result;

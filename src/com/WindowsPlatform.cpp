@@ -8,6 +8,7 @@
 #include "com/RegistrySettings.h"
 #include "com/Utf16.h"
 #include "com/Variants.h"
+#include "frame/IdentifierText.h"
 
 #include <atomic>
 
@@ -37,11 +38,7 @@ class WindowsMachineInfo : public MachineInfo {
         wchar_t name[256] = {};
         DWORD size = 256;
         GetComputerNameExW(ComputerNameNetBIOS, name, &size);
-        std::string text = Narrow({name, size});
-        for (char& c : text)
-            if (!((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9')))
-                c = '_';
-        return text.empty() ? "client" : text;
+        return IdentifierText(Narrow({name, size}));
     }
 };
 

@@ -1,5 +1,7 @@
 #include "host/HostMachine.h"
 
+#include "frame/IdentifierText.h"
+
 #include <fmt/format.h>
 
 #include <unistd.h>
@@ -9,16 +11,6 @@
 #include <random>
 
 namespace kavelin::host {
-
-std::string IdentifierText(std::string_view name)
-{
-    std::string text;
-    for (const char c : name) {
-        const bool allowed = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
-        text += allowed ? c : '_';
-    }
-    return text.empty() ? "client" : text;
-}
 
 std::string HostMachineInfo::MachineName()
 {

@@ -4,12 +4,8 @@
 #include "frame/host/SuiteObjects.h"
 
 #include <string>
-#include <string_view>
 
 namespace kavelin::host {
-
-// The name with every character but ASCII letters, digits and `_` replaced by `_`; "client" if it is empty.
-std::string IdentifierText(std::string_view name);
 
 class HostMachineInfo : public MachineInfo {
   public:

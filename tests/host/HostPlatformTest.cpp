@@ -1,6 +1,7 @@
 #include "host/HostPlatform.h"
 
 #include "frame/Errors.h"
+#include "frame/IdentifierText.h"
 #include "frame/ModPub.h"
 #include "host/HostMachine.h"
 #include "support/RecordingConnection.h"
@@ -115,13 +116,6 @@ TEST_F(HostPlatformTest, GivesIdentifiersThatNobodyElseHas)
     }
 }
 
-TEST(IdentifierText, KeepsLettersDigitsAndUnderscoresOnly)
-{
-    EXPECT_EQ(IdentifierText("pc-1.local"), "pc_1_local");
-    EXPECT_EQ(IdentifierText("]drop"), "_drop");
-    EXPECT_EQ(IdentifierText(""), "client");
-}
-
 TEST_F(HostPlatformTest, KeepsSettingsOfTheUser)
 {
     const auto store = objPlatform->CreateSettingsStore();
@@ -160,9 +154,21 @@ TEST_F(HostPlatformTest, ReadsXml)
     EXPECT_EQ(root->childNodes()[1]->nodeName(), "c");
 }
 
+TEST_F(HostPlatformTest, ReplacesTheReferencesOfXml)
+{
+    const auto document = objPlatform->CreateXmlDocument();
+    ASSERT_TRUE(
+        document->loadXML("<a b='&quot;&#60;&apos;'>&#x4E2D;&amp;lt;&gt;<![CDATA[&c<]]><!-- & --></a>"));
+    EXPECT_EQ(document->documentElement()->text(), "中&lt;>&c<");
+    EXPECT_EQ(document->documentElement()->getAttribute("b"), Value("\"<'"));
+}
+
 TEST_F(HostPlatformTest, RefusesXmlThatIsNotWellFormed)
 {
-    for (const char* text : {"", "text", "<a>", "<a></b>", "<a/><b/>", "<a/>text"}) {
+    for (const char* text :
+         {"", "text", "<a>", "<a></b>", "<a/><b/>", "<a/>text", "<a>b&c</a>", "<a>b&c;</a>", "<a>&#0;</a>",
+          "<a>&#x;</a>", "<a>&</a>", "<a>]]></a>", "<a>\x01</a>", "<a b='<'/>", "<a b='c&d'/>", "<a/>&",
+          "<a b='&lt'/>", "<a b='' b=''/>"}) {
         const auto document = objPlatform->CreateXmlDocument();
         EXPECT_FALSE(document->loadXML(text)) << text;
         EXPECT_EQ(document->documentElement(), nullptr) << text;

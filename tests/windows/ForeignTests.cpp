@@ -120,6 +120,19 @@ KAVELIN_TEST(ArgumentsByReferenceComeBackAlsoAfterAnError)
     }
 }
 
+KAVELIN_TEST(ATextThatLiesWhereTheFirstOneLayComesBack)
+{
+    FakeLife life;
+    const auto fake = MakeFake(life);
+    fake->With("Change", [](const FakeCall& call) {
+        call.Argument(0).pvarVal->bstrVal[0] = L'B';
+        return S_OK;
+    });
+    std::vector<Variant> arguments = {Value("before")};
+    ForeignObject(fake.Get()).CallByReference("Change", arguments);
+    CHECK(std::get<Value>(arguments[0]) == Value("Before"));
+}
+
 KAVELIN_TEST(AFailureKeepsItsTextCodeAndSource)
 {
     FakeLife life;

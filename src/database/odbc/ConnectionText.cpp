@@ -52,7 +52,6 @@ constexpr KeyRow kKeys[] = {
 };
 
 constexpr std::string_view kEmbeddedKey = "Embedded Account";
-constexpr std::string_view kHidden = "***";
 constexpr std::string_view kBlanks = " \t\r\n";
 
 std::optional<Meaning> MeaningOf(std::string_view key)
@@ -79,6 +78,13 @@ struct ReadText {
     std::string fault;  // a sentence; empty if nothing is wrong
 };
 
+// A value in a message. Only a key that is known is named: what stands behind a semicolon of a password may look
+// like a key, too.
+std::string QuotedValueOf(std::string_view key)
+{
+    return MeaningOf(key) ? "the quoted value of '" + std::string(key) + "'" : "a quoted value";
+}
+
 // The value at the front of `text`, which then begins at the semicolon behind it or is empty. Fills in `fault`
 // for a quoted value that doesn't end where it should.
 std::string TakeValue(std::string_view& text, Quotes quotes, std::string_view key, std::string& fault)
@@ -97,7 +103,7 @@ std::string TakeValue(std::string_view& text, Quotes quotes, std::string_view ke
     std::size_t i = 1;
     for (bool open = true; open; ++i) {
         if (i >= text.size()) {
-            fault = "The connection string ends within the quoted value of '" + std::string(key) + "'.";
+            fault = "The connection string ends within " + QuotedValueOf(key) + ".";
             return {};
         }
         if (text[i] != close)
@@ -110,7 +116,7 @@ std::string TakeValue(std::string_view& text, Quotes quotes, std::string_view ke
     text.remove_prefix(i);
     const std::string_view rest = text.substr(0, text.find(';'));
     if (!WithoutBlanks(rest).empty())
-        fault = "The connection string has text behind the quoted value of '" + std::string(key) + "'.";
+        fault = "The connection string has text behind " + QuotedValueOf(key) + ".";
     text.remove_prefix(rest.size());
     return value;
 }
@@ -171,19 +177,6 @@ ReadText ReadEither(std::string_view text)
     return odbc.fault.empty() && NamesDriver(odbc.parts) ? odbc : provider;
 }
 
-// Everything from the first word on that begins a password's key, by ***.
-std::string CutAtPassword(std::string_view text)
-{
-    std::size_t cut = text.size();
-    const std::string lower = ToLower(text);
-    // Lower case may change the number of bytes of a letter outside ASCII; then nothing is shown.
-    if (lower.size() != text.size())
-        return std::string(kHidden);
-    for (const std::string_view key : {"password", "pwd"})
-        cut = std::min(cut, lower.find(key));
-    return cut == text.size() ? std::string(text) : std::string(text.substr(0, cut)) + std::string(kHidden);
-}
-
 }  // namespace
 
 ConnectionText ConnectionText::Parse(std::string_view text)
@@ -216,20 +209,6 @@ bool NamesServer(std::string_view text)
         names = names || part.meaning == Meaning::Provider || part.meaning == Meaning::Server;
     }
     return names && read.fault.empty();
-}
-
-std::string WithoutPassword(std::string_view text)
-{
-    const ReadText read = ReadEither(text);
-    if (!read.fault.empty())
-        return CutAtPassword(text);
-    std::string shown;
-    for (const ConnectionText::Part& part : read.parts) {
-        if (!shown.empty())
-            shown += ';';
-        shown += part.meaning == Meaning::Password ? part.key + "=" + std::string(kHidden) : part.written;
-    }
-    return shown;
 }
 
 std::string PasswordOf(std::string_view text)

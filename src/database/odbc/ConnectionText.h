@@ -43,7 +43,8 @@ class ConnectionText {
 
     // Keys in any case and order, blanks around keys and values left out, empty parts read over. A value may
     // stand in {}, with } doubled inside, and in the provider's form also in ' or " with the quote doubled.
-    // Throws ConnectionError for a text that is no such list; values never stand in the message.
+    // Throws ConnectionError for a text that is no such list; neither values nor unknown keys stand in the
+    // message.
     static ConnectionText Parse(std::string_view text);
 
     // ODBC's own form: it names a driver or a data source.
@@ -61,10 +62,6 @@ class ConnectionText {
 // Whether the text is for this adapter: it names a provider, a server, a driver or a data source, and no
 // embedded account. Never throws.
 bool NamesServer(std::string_view text);
-
-// The text with *** for its password, to be shown. Of a text that cannot be read, nothing is left behind the
-// first key that may be a password's.
-std::string WithoutPassword(std::string_view text);
 
 // The password in the text; empty if there is none, or if the text cannot be read.
 std::string PasswordOf(std::string_view text);

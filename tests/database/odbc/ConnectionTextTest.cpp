@@ -78,6 +78,8 @@ TEST(ConnectionText, WhatIsNoListOfKeysIsRefusedWithoutItsValues)
         "Server=a;Password={secret-word",
         "Server=a;Password=\"x\"secret-word",
         "=secret-word",
+        "Server=a;Password=x;secret-word='y",
+        "Server=a;Password=x;secret-word={y}z",
     };
     for (const std::string_view text : texts) {
         try {
@@ -118,23 +120,6 @@ TEST(ConnectionText, OnlyAServersTextIsForThisAdapter)
           "Embedded Account=\"/data/Server=x;y.kavelin\"", "", "/data/books.kavelin", "books",
           "Server=\"unfinished", "Locale=zh-CN", "Embedded Account=a;Data Source=b"})
         EXPECT_FALSE(NamesServer(text)) << text;
-}
-
-TEST(ConnectionText, AShownTextHidesItsPassword)
-{
-    const struct {
-        std::string_view text, shown;
-    } cases[] = {
-        {"Server=a;Password=secret;Database=b", "Server=a;Password=***;Database=b"},
-        {"Server=a; PWD = \"se;cret\" ;Database='b'", "Server=a;PWD=***;Database='b'"},
-        {"DSN=books;PWD={se;cret};UID=u", "DSN=books;PWD=***;UID=u"},
-        {"Server=a;PWD=one;Password=two", "Server=a;PWD=***;Password=***"},
-        {"Server=a", "Server=a"},
-        {"Server=a;PassWord=\"unfinished", "Server=a;***"},
-        {"Server=\"unfinished;pwd=x", "Server=\"unfinished;***"},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(WithoutPassword(c.text), c.shown);
 }
 
 TEST(ConnectionText, AnUnreadableTextHasNoPassword)

@@ -4,9 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <dlfcn.h>
 #include <chrono>
 #include <cstdlib>
-#include <dlfcn.h>
 #include <filesystem>
 #include <thread>
 

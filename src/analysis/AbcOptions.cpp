@@ -14,7 +14,7 @@ std::string ReadShare(SettingsStore& settings, const AbcOption& option)
 {
     const std::string percentage =
         settings.Read(std::string(kAbcApplication), std::string(kAbcSection), std::string(option.key), "");
-    return ToText(ToDouble(percentage.empty() ? Value("no number") : Value(percentage)) / 100);
+    return ToText(ToDouble(percentage) / 100);
 }
 
 void WriteDefaults(SettingsStore& settings)

@@ -32,7 +32,7 @@ void Redraw(LateBound& e)
 
 }  // namespace
 
-void ClsABC::GETSQL(ReportCallArgs& e)
+void ClsABC::GETSQL(LateBound& e)
 {
     RunFrame(FindFrameRow("ClsABC", FrameEntry::GETSQL), e, objFrame, [this] {
         if (ToText(objFrame.dicArgs[FrameRead::ArgABC]) == "1")

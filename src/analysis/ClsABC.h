@@ -4,7 +4,7 @@
 
 #include "frame/Frame.h"
 #include "frame/RowArguments.h"
-#include "frame/host/ReportCallArgs.h"
+#include "frame/host/HostObject.h"
 
 #include <string>
 
@@ -22,8 +22,9 @@ class ClsABC {
     const std::string& TempTablename() const { return objFrame.strTable; }
     void SetTempTablename(const std::string& table) { objFrame.strTable = table; }
 
-    // The whole report. Any failure goes to the host; the working tables then stay.
-    void GETSQL(ReportCallArgs& e);
+    // The whole report. Both take their argument late-bound. Any failure goes to the host; the working tables
+    // then stay.
+    void GETSQL(LateBound& e);
     void GetSqlForOld(LateBound& e);
 
     // Makes the result table; for the frame. True.

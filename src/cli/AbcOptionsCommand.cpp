@@ -15,9 +15,13 @@
 #include <fmt/format.h>
 #include <CLI/CLI.hpp>
 
+#include <charconv>
+#include <cmath>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 namespace kavelin::cli {
@@ -45,13 +49,22 @@ FormField& FieldOf(Form& form, const std::string& key)
                     key));
 }
 
+// "70", "66.5" or "-5". The form takes "1-2" for 1; the analysis, which doesn't, would put all eight back.
+bool IsPlainNumber(std::string_view text)
+{
+    double number = 0;
+    const char* const end = text.data() + text.size();
+    const auto read = std::from_chars(text.data(), end, number, std::chars_format::fixed);
+    return read.ec == std::errc() && read.ptr == end && std::isfinite(number);
+}
+
 void Type(Form& form, const std::string& assignment)
 {
     const std::size_t equals = assignment.find('=');
     if (equals == std::string::npos)
         throw host::UsageError(fmt::format("--set takes KEY=VALUE, not \"{}\".", assignment));
     const std::string value(Trim(std::string_view(assignment).substr(equals + 1)));
-    if (value.find_first_not_of("0123456789.-") != std::string::npos || value.empty())
+    if (!IsPlainNumber(value))
         throw host::UsageError(fmt::format("A threshold is a percentage such as 70, not \"{}\".", value));
     FieldOf(form, assignment.substr(0, equals)).text = value;
 }

@@ -90,10 +90,14 @@ void Open(const CLI::App& command, const OpenFlags& flags)
     }
     if (!flags.row.empty())
         throw host::UsageError(fmt::format("{} is about the whole report, so it takes no --row.", action));
-    if (chosen.kind == host::ActionKind::ShowsOptions)
-        ShowAbcOptions(flags.login, {}, flags.output);
-    else
+    if (chosen.kind == host::ActionKind::DrawsAgain) {
         DrawAgain(report, flags, action);
+        return;
+    }
+    if (!flags.filter.values.empty() || !flags.filter.file.empty())
+        throw host::UsageError(fmt::format("{} shows {} and takes no filter. abc-options --set changes them.",
+                                           action, chosen.opens));
+    ShowAbcOptions(flags.login, {}, flags.output);
 }
 
 // What this report opens, in front of the general options.

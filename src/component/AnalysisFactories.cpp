@@ -14,6 +14,18 @@ namespace kavelin {
 
 namespace {
 
+// GETSQL, by what its class takes: the ABC analysis alone reads every member of its argument by name.
+template <class Report>
+Dispatch EntryOf(Report& report)
+{
+    return MethodOn<ReportCallArgs>("GETSQL", [&report](ReportCallArgs& e) { report.GETSQL(e); });
+}
+
+Dispatch EntryOf(ClsABC& report)
+{
+    return LateMethod("GETSQL", [&report](LateBound& e) { report.GETSQL(e); });
+}
+
 // What the three have in common.
 template <class Report>
 std::vector<Dispatch> AnalysisMembers(Report& report)
@@ -25,7 +37,7 @@ std::vector<Dispatch> AnalysisMembers(Report& report)
         TextProperty(
             "TempTablename", [&report] { return report.TempTablename(); },
             [&report](const std::string& table) { report.SetTempTablename(table); }),
-        MethodOn<ReportCallArgs>("GETSQL", [&report](ReportCallArgs& e) { report.GETSQL(e); }),
+        EntryOf(report),
         Method("MoveDataDetail", 0,
                [&report](const auto&) { return Variant(Value(report.MoveDataDetail())); }),
     };

@@ -69,10 +69,11 @@ TEST_F(AbcCommands, OptionsThatTheFormRefusesAreNotWritten)
 
 TEST_F(AbcCommands, OptionsThatAreNoneAreRefused)
 {
-    for (const char* value : {"M5=10", "M2", "M2=", "M2=viel"}) {
+    // Of the last four the form reads a number at the beginning, or none where it tests none.
+    for (const char* value : {"M5=10", "M2", "M2=", "M2=viel", "M2=70%", "M2=6.5.2", "M1=-", "N4=1-2"}) {
         const Outcome outcome = objProgram.Run({"abc-options", "--set", value});
         EXPECT_EQ(outcome.exitCode, 2) << value << outcome.err;
-        EXPECT_EQ(Threshold("M2"), "70");
+        EXPECT_EQ(Threshold("M1") + Threshold("M2") + Threshold("N4"), "10070100") << value;
     }
 }
 
@@ -108,6 +109,13 @@ TEST_F(AbcCommands, TheOptionsStandBehindAnActionToo)
     const Outcome options = objProgram.Run({"open", "abc", "--action", "ActOption", "--format", "csv"});
     EXPECT_EQ(options.exitCode, 0) << options.err;
     EXPECT_EQ(options.out, objProgram.Run({"abc-options", "--format", "csv"}).out);
+
+    const Outcome changed = objProgram.Run({"open", "abc", "--action", "ActOption", "--set", "M2=60"});
+    EXPECT_EQ(changed.exitCode, 2);
+    EXPECT_EQ(
+        changed.err,
+        "kavelin: ActOption shows the thresholds of the classes and takes no filter. abc-options --set changes"
+        " them.\n");
 }
 
 TEST_F(AbcCommands, ActionsAreForTheWholeReport)

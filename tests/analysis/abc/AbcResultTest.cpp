@@ -1,4 +1,5 @@
 // What the ABC analysis computes on a small account; the arithmetic stands beside each case.
+#include "analysis/AbcOptions.h"
 #include "analysis/ClsABC.h"
 #include "support/account/AccountHost.h"
 
@@ -48,7 +49,7 @@ class AbcResult : public testing::Test {
 
     std::string Run()
     {
-        ClsABC().GETSQL(*host.EarlyArgument());
+        ClsABC().GETSQL(*host.LateArgument());
         return host.Query(
             "select 存货_编码, 分析_数量, 分析_数量比例, 分析_金额, 分析_金额比例, 分析_ABC类别"
             " from tempdb..abc order by 存货_编码");
@@ -87,6 +88,38 @@ TEST_F(AbcResult, GivesANegativeQuantityNoShareButAGrade)
     Add("A", "10", "50");
     Add("B", "-4", "50");
     EXPECT_EQ(Run(), kHead + "A,10,1.0000,50.0000,0.5000,B\nB,-4,0.0000,50.0000,0.5000,B\n");
+}
+
+// Money 40 in all: 0 and less have no share, and stay in the table with grade C by money. Quantity 0.25 is B.
+TEST_F(AbcResult, GivesMoneyThatIsNotAboveZeroNoShareButAGrade)
+{
+    Add("A", "10", "-5");
+    Add("B", "10", "0");
+    Add("C", "20", "40");
+    EXPECT_EQ(
+        Run(),
+        kHead + "A,10,0.2500,-5.0000,0.0000,B\nB,10,0.2500,0.0000,0.0000,B\nC,20,0.5000,40.0000,1.0000,C\n");
+}
+
+// What lies below the bottom of both scales has no grade, and no grade is class A. 0.95 is C by quantity.
+TEST_F(AbcResult, PutsAnItemWithoutAGradeIntoClassA)
+{
+    for (const AbcOption& option : kAbcOptions)
+        host.Answers().settings["存货核算, ABCOption872, " + std::string(option.key)] = option.byDefault;
+    for (const char* bottom : {"M4", "N1"})
+        host.Answers().settings[std::string("存货核算, ABCOption872, ") + bottom] = "10";
+    Add("A", "95", "95");
+    Add("B", "5", "5");
+    EXPECT_EQ(Run(), kHead + "A,95,0.9500,95.0000,0.9500,C\nB,5,0.0500,5.0000,0.0500,A\n");
+}
+
+// The total counts rows above zero only: 30 and 10 of 50, then the largest takes what is missing.
+TEST_F(AbcResult, CountsARowBelowZeroInItsItemAndNotInTheTotal)
+{
+    Add("A", "40", "40");
+    Add("A", "-10", "-10");
+    Add("B", "10", "10");
+    EXPECT_EQ(Run(), kHead + "A,30,0.8000,30.0000,0.8000,C\nB,10,0.2000,10.0000,0.2000,B\n");
 }
 
 // 1/3 = 0.3333 each; one of the three becomes 1 - 0.6666.

@@ -80,7 +80,7 @@ TEST(ClsABC, SendsTheStatementsOfItsScenarios)
     for (const Scenario& scenario : cases) {
         RecordingHost host;
         Prepare(host, scenario);
-        ClsABC().GETSQL(*host.EarlyArgument());
+        ClsABC().GETSQL(*host.LateArgument());
         ExpectStatements(host.Sent(), std::string("abc/") + scenario.name);
         ExpectScenario(host, "ClsABC", std::string("abc/") + scenario.name);
     }
@@ -91,7 +91,7 @@ TEST(ClsABC, LeavesToTheServiceOnlyWhatItDoesNotTakeItself)
     RecordingHost host;
     Prepare(host, {.name = "",
                    .filter = {{"iYear", "2008"}, {"cWhCode", "01"}, {"IPERIOD", "7月"}, {"INCLUA", "是"}}});
-    ClsABC().GETSQL(*host.EarlyArgument());
+    ClsABC().GETSQL(*host.LateArgument());
     EXPECT_EQ(host.Filter()->Tokens(), (std::vector<std::int32_t>{1, 0, 1, 1}));
 }
 
@@ -100,7 +100,7 @@ TEST(ClsABC, TakesTheLoginsMonthAndYearWithoutADialog)
     RecordingHost host;
     Prepare(host, {.name = "", .filter = {{"iYear", "2007"}, {"iPeriod", "3月"}}});
     host.Answers().args.clear();
-    ClsABC().GETSQL(*host.EarlyArgument());
+    ClsABC().GETSQL(*host.LateArgument());
     EXPECT_NE(Total(host).find("imonth=7 And IA_summary.iyear =2008"), std::string::npos) << Total(host);
 }
 
@@ -118,7 +118,7 @@ TEST(ClsABC, TakesTheLoginsYearForAnEmptyOneThatComesFromADialog)
     RecordingHost host;
     Prepare(host, {.name = "", .filter = {{"iYear", ""}, {"iPeriod", "3月"}}});
     host.Filter()->ContextArgs()->Add(Value("1"), "ABC");
-    ClsABC().GETSQL(*host.EarlyArgument());
+    ClsABC().GETSQL(*host.LateArgument());
     EXPECT_NE(Total(host).find("imonth=3 And IA_summary.iyear =2008"), std::string::npos) << Total(host);
 }
 
@@ -126,7 +126,7 @@ TEST(ClsABC, StopsAtEachStatementThatFailsWithTheConnectionOpen)
 {
     RecordingHost whole;
     Prepare(whole, {.name = "", .filter = kDialog});
-    ClsABC().GETSQL(*whole.EarlyArgument());
+    ClsABC().GETSQL(*whole.LateArgument());
     const std::size_t statements = whole.Sent().size();
     ASSERT_EQ(statements, 15u);
 
@@ -137,11 +137,11 @@ TEST(ClsABC, StopsAtEachStatementThatFailsWithTheConnectionOpen)
         ClsABC report;
         const bool quiet = whole.Sent()[k - 1].sql.starts_with("drop table ");
         if (quiet) {
-            EXPECT_NO_THROW(report.GETSQL(*host.EarlyArgument())) << k;
+            EXPECT_NO_THROW(report.GETSQL(*host.LateArgument())) << k;
             EXPECT_EQ(host.Sent().size(), statements) << k;
             continue;
         }
-        EXPECT_THROW(report.GETSQL(*host.EarlyArgument()), DatabaseError) << k;
+        EXPECT_THROW(report.GETSQL(*host.LateArgument()), DatabaseError) << k;
         EXPECT_EQ(host.Sent().size(), k);
         EXPECT_EQ(ConnectionsLeft(), "gcnnAccount=open gcnnSystem=nothing gobjLogin=set") << k;
     }
@@ -152,7 +152,7 @@ TEST(ClsABC, LetsEveryFailureOfTheHostsObjectsReachTheHostUnlessItOnlyDropsATabl
     RecordingHost whole;
     Prepare(whole, {.name = "", .filter = kDialog});
     whole.Events().Clear();
-    ClsABC().GETSQL(*whole.EarlyArgument());
+    ClsABC().GETSQL(*whole.LateArgument());
     const std::vector<std::string> steps = whole.Events().Lines();
     ASSERT_GT(steps.size(), 50u);
 
@@ -163,10 +163,10 @@ TEST(ClsABC, LetsEveryFailureOfTheHostsObjectsReachTheHostUnlessItOnlyDropsATabl
         host.Events().Clear();
         host.Events().FailAt(k);
         if (steps[k - 1].starts_with("#1.Execute drop table ")) {
-            EXPECT_NO_THROW(ClsABC().GETSQL(*host.EarlyArgument())) << steps[k - 1];
+            EXPECT_NO_THROW(ClsABC().GETSQL(*host.LateArgument())) << steps[k - 1];
             ++passedOver;
         } else {
-            EXPECT_THROW(ClsABC().GETSQL(*host.EarlyArgument()), PlannedFailure) << steps[k - 1];
+            EXPECT_THROW(ClsABC().GETSQL(*host.LateArgument()), PlannedFailure) << steps[k - 1];
             EXPECT_EQ(host.Events().Lines().size(), k) << steps[k - 1];
         }
     }
@@ -218,7 +218,7 @@ TEST(ClsABC, LeavesOneClassAndHasTheReportDrawnAgain)
     Prepare(host, {.name = "", .filter = kDialog});
     host.Answers().rowObjects["FltArgs"] = std::make_shared<Manager>(host.Events());
     ClsABC report;
-    report.GETSQL(*host.EarlyArgument());
+    report.GETSQL(*host.LateArgument());
     EXPECT_EQ(ShownClasses(host), "ABC");
 
     const struct {
@@ -230,11 +230,11 @@ TEST(ClsABC, LeavesOneClassAndHasTheReportDrawnAgain)
         EXPECT_EQ(host.Events().Text(),
                   "new OrvoClassicReport.ClsFilterArgs\ne.Action\nlate e.FltArgs\nFltArgs.ObjreportManager\n"
                   "ReportListFormByName 'ABC成本分析'\nRefreshList\n");
-        report.GETSQL(*host.EarlyArgument());
+        report.GETSQL(*host.LateArgument());
         EXPECT_EQ(ShownClasses(host), c.classes);
     }
     ClsABC another;
-    another.GETSQL(*host.EarlyArgument());
+    another.GETSQL(*host.LateArgument());
     EXPECT_EQ(ShownClasses(host), "ABC");
 }
 
@@ -247,10 +247,10 @@ TEST(ClsABC, HidesAClassThatTheFilterLeavesOutWhateverTheAction)
          .filter = {
              {"iYear", "2008"}, {"iPeriod", "7月"}, {"incluA", "是"}, {"incluB", "否"}, {"incluC", "否"}}});
     ClsABC report;
-    report.GETSQL(*host.EarlyArgument());
+    report.GETSQL(*host.LateArgument());
     EXPECT_EQ(ShownClasses(host), "A");
     report.Execute(*host.EarlyRowArgument("ActB", {}));
-    report.GETSQL(*host.EarlyArgument());
+    report.GETSQL(*host.LateArgument());
     EXPECT_EQ(ShownClasses(host), "");
     EXPECT_TRUE(host.Sent()[host.Sent().size() - 3].sql.ends_with(" where 1=2  "));
 }

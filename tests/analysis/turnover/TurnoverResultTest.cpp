@@ -147,6 +147,56 @@ TEST_F(Turnover, TakesARangeOfOneDayAsOneDay)
     EXPECT_EQ(Amounts(), kHead + "A,100.00,60.00,80.00,40.00,0,0.500000,2\n");
 }
 
+// 50 stand at the start and count for all ten days, 100 of the first day for 9.5, 20 of the last for 0.5:
+// (50*10 + 100*9.5 + 20*0.5)/10 = 146. The 700 of the day after count nowhere.
+TEST_F(Turnover, CountsTheFirstAndTheLastDayAsDaysOfTheRange)
+{
+    Receipt({.date = "2008-02-29", .quantity = "1", .money = "50", .month = 2});
+    Receipt({.date = "2008-03-01", .quantity = "1", .money = "100"});
+    Receipt({.date = "2008-03-10", .quantity = "1", .money = "20"});
+    Receipt({.date = "2008-03-11", .quantity = "1", .money = "700"});
+    EXPECT_EQ(Amounts(), kHead + "A,50.00,170.00,146.00,0.00,0,0.000000,0\n");
+}
+
+// Four days, of which 40 of the second stay for 2.5: 40*2.5/4 = 25. 10/25 = 0.4, 4/0.4 = 10.
+TEST_F(Turnover, CountsTheDaysOfARangeThatGoesBeyondTheYear)
+{
+    Receipt({.date = "2008-12-31", .quantity = "1", .money = "50", .month = 12});
+    Issue({.date = "2008-12-31", .quantity = "1", .money = "10", .month = 12});
+    Filter({}, "2008-12-30", "2009-01-02");
+    EXPECT_EQ(Amounts(), kHead + "A,0.00,40.00,25.00,10.00,0,0.400000,10\n");
+}
+
+// Half a cent becomes a cent in every row: three cents received and two issued, not two and one.
+TEST_F(Turnover, RoundsTheMoneyOfEachRowBeforeItIsAdded)
+{
+    for (int i = 0; i < 3; ++i)
+        Receipt({.date = "2008-02-20", .quantity = "1", .money = "0.005", .month = 2});
+    for (int i = 0; i < 2; ++i)
+        Issue({.date = "2008-03-05", .quantity = "1", .money = "0.005"});
+    EXPECT_EQ(Run("分析_期初余额, 分析_期末余额, 分析_出库成本"),
+              "分析_期初余额,分析_期末余额,分析_出库成本\n0.03,0.01,0.02\n");
+}
+
+// What comes and goes on one day stands for no time; what goes without having come stands below zero.
+TEST_F(Turnover, GivesRateAndDaysZeroWhereTheAverageIsNotAboveZero)
+{
+    Receipt({.date = "2008-03-10", .quantity = "1", .money = "100"});
+    Issue({.date = "2008-03-10", .quantity = "1", .money = "100"});
+    Issue({.date = "2008-03-01", .quantity = "1", .money = "100", .item = "B"});
+    const std::string rows =
+        "A,0.00,0.00,0.00,100.00,0,0.000000,0\nB,0.00,-100.00,-95.00,100.00,0,0.000000,0\n";
+    EXPECT_EQ(Amounts(), kHead + rows);
+}
+
+// (10000*10 - 20*0.5)/10 = 9999; 20/9999 = 0.002, which is nothing at two decimals.
+TEST_F(Turnover, GivesNoDaysByAmountWhereTheRateIsZeroAtTwoDecimals)
+{
+    Receipt({.date = "2008-02-20", .quantity = "1", .money = "10000", .month = 2});
+    Issue({.date = "2008-03-10", .quantity = "1", .money = "20"});
+    EXPECT_EQ(Run("分析_周转率, 分析_周转天数"), "分析_周转率,分析_周转天数\n0.002000,0\n");
+}
+
 TEST_F(Turnover, GivesRateAndDaysZeroWhereTheAverageIsZero)
 {
     Issue({.date = "2008-03-10", .quantity = "0", .money = "0"});

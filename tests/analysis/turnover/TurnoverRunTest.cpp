@@ -136,6 +136,25 @@ TEST(clsCinTurnRep, EndsWithTheLastPostingWhereNoDateIsGivenAndWithTheYearWhereN
     EXPECT_EQ(With(empty, "dKeepDate <= '2008-12-31'").size(), 2u);
 }
 
+TEST(clsCinTurnRep, SendsTheSameStatementsWhenAnOlderHostCalls)
+{
+    const auto statements = [](bool isOlder) {
+        RecordingHost host;
+        Prepare(host, {});
+        clsCinTurnRep report;
+        if (isOlder)
+            report.GetSqlForOld(*host.LateArgument());
+        else
+            report.GETSQL(*host.EarlyArgument());
+        EXPECT_EQ(report.TempTablename(), "tempdb..turnover");
+        std::string text;
+        for (const SentStatement& sent : host.Sent())
+            text += sent.sql + "\n";
+        return text;
+    };
+    EXPECT_EQ(statements(true), statements(false));
+}
+
 TEST(clsCinTurnRep, FailsOnARangeBeforeItsYear)
 {
     RecordingHost host;
@@ -291,6 +310,17 @@ TEST(clsCinTurnRep, TakesColumnsOutOfTheViewThatItsGroupingLeavesEmpty)
         report.GETSQL(*host.EarlyArgument());
         EXPECT_EQ(format.Hidden(), c.hidden);
     }
+}
+
+TEST(clsCinTurnRep, NeedsNoFormatOfItsReport)
+{
+    RecordingHost host;
+    Prepare(host, {});
+    const auto manager = std::make_shared<Members>();
+    manager->call = [](std::string_view, const std::vector<Variant>&) -> Variant { return HostObjectPtr(); };
+    host.SetReportManager(manager);
+    EXPECT_NO_THROW(clsCinTurnRep().GETSQL(*host.EarlyArgument()));
+    EXPECT_TRUE(host.Sent().back().sql.starts_with("drop table ")) << "goes on to the end";
 }
 
 }  // namespace kavelin::test

@@ -96,7 +96,7 @@ std::string BuildUnpostedWhere(const SumArguments& arguments, const SumPeriod& p
 {
     std::string where =
         "where  isnull(caccounter,'')=''  " +
-        Permissions(arguments, "clsIASFCReport unposted", " cwhcode is null  and left(cbustype,2) =N'直运' ");
+        Permissions(arguments, "clsIASFCReport unposted", " cwhcode is null  and left(cbustype,2) =N'直运'");
     if (!period.strStart.empty())
         where += " and " + Joined(InventoryFilter(arguments), " And ",
                                   " ( dVouDate>= N'" + period.strStart + "' or dVouDate< N'" +

@@ -1,5 +1,7 @@
 #include "reports/StockBook.h"
 
+#include "frame/Text.h"
+
 #include <algorithm>
 #include <cstdlib>
 
@@ -13,8 +15,8 @@ constexpr const char* kUnposted =
     " l.cInvCode, isnull(h.cWhCode, N''), l.bRdFlag, cast(isnull(l.iQuantity, 0) as decimal(20,4)),"
     " isnull(l.iPrice, 0), isnull(l.iDif, 0)"
     " from Demo_DocumentLine l inner join Demo_Document h on h.DocID = l.DocID"
-    " left join Warehouse w on w.cWhCode = h.cWhCode"
-    " where isnull(l.cAccounter, N'') = N'' and isnull(w.bInCost, 1) = 1";
+    " left join Warehouse w on w.cWhCode = h.cWhCode left join Inventory i on i.cInvCode = l.cInvCode"
+    " where isnull(l.cAccounter, N'') = N'' and isnull(w.bInCost, 1) = 1 and ";
 
 constexpr const char* kPostedKinds =
     "select distinct h.Kind, h.cVouType, left(isnull(h.cBusType, N''), 2)"
@@ -77,8 +79,10 @@ bool IsDirect(const std::string& business)
     return business.starts_with("直运");
 }
 
-StockBook::StockBook(AccountReport& report, const std::string& ledgerCondition)
+StockBook::StockBook(AccountReport& report, const std::string& condition)
 {
+    const std::string documents = condition.empty() ? "1=1" : condition;
+    const std::string ledger = ReplaceAll(ReplaceAll(documents, "h.", "a."), "l.", "a.");
     strFirstDay =
         report.Table("select cValue from AccInformation where cSysID = N'IA' and cName = N'dIAStartDate'")
             .at(0)
@@ -90,7 +94,7 @@ StockBook::StockBook(AccountReport& report, const std::string& ledgerCondition)
             " isnull(a.iAInPrice, 0), cast(isnull(a.iAOutQuantity, 0) as decimal(20,4)), isnull(a.iAOutPrice, 0),"
             " isnull(a.iDebitDifCost, 0), isnull(a.iCreditDifCost, 0)"
             " from IA_Subsidiary a left join Inventory i on i.cInvCode = a.cInvCode where " +
-            (ledgerCondition.empty() ? "1=1" : ledgerCondition))) {
+            ledger)) {
         LedgerRow& line = lstLedger.emplace_back();
         line.place = {row[0], row[1]};
         line.month = std::stoi(row[2]);
@@ -107,7 +111,7 @@ StockBook::StockBook(AccountReport& report, const std::string& ledgerCondition)
     std::set<std::string> posted;
     for (const auto& row : report.Table(kPostedKinds))
         posted.insert(KindKey(row[0], row[1], row[2]));
-    for (const auto& row : report.Table(kUnposted)) {
+    for (const auto& row : report.Table(kUnposted + documents)) {
         DocumentRow line = {row[0],           row[1],        row[2], row[3], row[4],
                             {row[5], row[6]}, row[7] == "1", {},     false};
         line.isDirect = IsDirect(line.business);

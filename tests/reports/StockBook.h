@@ -62,8 +62,9 @@ struct DocumentRow {
 
 class StockBook {
   public:
-    // `condition` on ledger rows `a`, items `i` and document lines `l` with heads `h`, where it is not empty.
-    explicit StockBook(AccountReport& report, const std::string& ledgerCondition = "");
+    // Of the ledger and documents that meet `condition`, where it is not empty. In it `l` is a document's line,
+    // `h` its head and `i` its item; a ledger row is line and head at once.
+    explicit StockBook(AccountReport& report, const std::string& condition = "");
 
     const std::string& FirstDay() const { return strFirstDay; }
     const std::vector<LedgerRow>& Ledger() const { return lstLedger; }

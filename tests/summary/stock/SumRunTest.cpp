@@ -326,7 +326,7 @@ TEST(GetSum, ReadsOnlyDirectBusinessWithoutAWarehouseWhereNoWarehouseIsChosen)
     EXPECT_TRUE(narrow.Opening().starts_with(
         "where cVouType<> N'33'  AND  cwhcode is null and left(cbustype,2) =N'直运'  and  (dKeepDate<"));
     EXPECT_TRUE(narrow.Stock().starts_with(
-        "where  isnull(caccounter,'')=''   AND  cwhcode is null  and left(cbustype,2) =N'直运'  and  ("
+        "where  isnull(caccounter,'')=''   AND  cwhcode is null  and left(cbustype,2) =N'直运' and  ("
         " dVouDate>="));
 
     arguments.strWhDepCode = "N'01'";

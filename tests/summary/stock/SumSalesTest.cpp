@@ -1,11 +1,14 @@
 // One sale goes through several documents, of which one is to be counted: proved for every setting of the
 // account and for whichever of the documents is posted already.
+#include "frame/Text.h"
 #include "summary/stock/SummaryBooks.h"
 
 #include <gtest/gtest.h>
 
 #include <map>
 #include <sstream>
+#include <string>
+#include <vector>
 
 namespace kavelin::test {
 
@@ -186,6 +189,51 @@ TEST_F(SalesOfTheStockSummary, AreNotCountedOnceTheyArePosted)
     }
 }
 
+// Whatever the settings: a document that was counted leaves the documents when it is posted, and no other one
+// of its sale takes its place beside the ledger.
+TEST_F(SalesOfTheStockSummary, LoseTheDocumentThatIsPostedAndGainNone)
+{
+    for (const char* saleType : {"true", "false", "销售发票", "发出商品"}) {
+        // An account that costs ordinary sales by the dispatch note has no issue notes of them to be costed.
+        if (std::string(saleType) == "发出商品")
+            books.Run("delete from Line where ID = " + std::to_string(kOrdinary + kIssue));
+        for (const char* style : {"发出商品", "销售发票"}) {
+            for (const bool direct : {false, true}) {
+                Post(kNone);
+                const std::vector<std::string> counted = Split(Trim(Counted(saleType, style, direct)), " ");
+                EXPECT_GE(counted.size(), direct ? 5U : 4U) << saleType << " " << style;
+                for (const std::string& posted : counted) {
+                    std::string left;
+                    for (const std::string& line : counted)
+                        left += line == posted ? "" : line + " ";
+                    Post(std::stoi(posted));
+                    EXPECT_EQ(Counted(saleType, style, direct), left)
+                        << saleType << " " << style << " " << direct << " " << posted;
+                }
+            }
+        }
+    }
+}
+
+// Ordinary and export sales are in the ledger once their issue or their invoice is, whichever of them costs now.
+TEST_F(SalesOfTheStockSummary, AreInTheLedgerByEitherDocument)
+{
+    for (const char* saleType : {"true", "false", "销售发票"}) {
+        for (const char* style : {"发出商品", "销售发票"}) {
+            for (const bool direct : {false, true}) {
+                for (const int posted :
+                     {kOrdinary + kIssue, kOrdinary + kInvoice, kExport + kIssue, kExport + kExportInvoice}) {
+                    Post(posted);
+                    std::istringstream lines(Counted(saleType, style, direct));
+                    for (int line = 0; lines >> line;)
+                        EXPECT_NE(line / 10, posted / 10)
+                            << saleType << " " << style << " " << direct << " " << posted;
+                }
+            }
+        }
+    }
+}
+
 TEST_F(SalesOfTheStockSummary, AreNeverCountedTwice)
 {
     for (const char* saleType : {"true", "false", "销售发票", "发出商品"}) {
@@ -232,6 +280,55 @@ TEST_F(SalesOfTheStockSummary, TakeAlongAnyLineOfTheirNumber)
     Post(kOrdinary + kInvoice);
     EXPECT_EQ(Counted("false", "销售出库单", false), "12 22 32 41 ")
         << "an adjustment of before the deletes goes, a confirmation of after them stays";
+}
+
+// Of entrusted sales and of sales by instalments only some types of documents stay, of their ledger lines too,
+// as soon as documents are read. Adjustments stand for documents of any type here: no other rule asks for them.
+TEST_F(SalesOfTheStockSummary, KeepTheTypesOfTheirBusiness)
+{
+    const char* types[] = {"01", "05", "06", "09", "11", "26", "27", "28", "29", "32", "3201", "5", "6"};
+    books.Run("delete from Line");
+    int id = 0;
+    for (const char* business : {"N'委托代销'", "N'委托'", "N'委外加工'", "N'分期收款'", "N'普通销售'"}) {
+        for (const char* type : types) {
+            AddLine({.id = ++id, .kind = "JUST", .type = type, .business = business});
+            books.Add(LedgerLine{.type = type, .flag = "0", .quantity = "2", .business = business});
+            books.Add(LedgerLine{
+                .type = type, .date = "2008-06-01", .month = 6, .quantity = "3", .business = business});
+        }
+    }
+    // Quantities are 1 of a document, 2 of the period's issue and 3 of the opening balance.
+    const auto kept = [&](const std::string& business, const std::string& quantity) {
+        const std::string rows =
+            books.Query("select cvoutype from tempdb..pool where cbustype = N'" + business +
+                        "' and outquantity + qcquantity = " + quantity + " order by cvoutype");
+        return ReplaceAll(rows.substr(rows.find('\n') + 1), "\n", " ");
+    };
+    const std::string all = "01 05 06 09 11 26 27 28 29 32 3201 5 6 ";
+    const struct {
+        const char *saleType, *style;
+        const char* entrusted;
+    } cases[] = {
+        {"true", "发出商品", "01 05 06 3201 5 6 "},         {"false", "发出商品", "01 05 06 3201 5 6 "},
+        {"true", "销售发票", "01 09 11 26 27 28 29 3201 "}, {"false", "销售出库单", "01 09 11 32 3201 "},
+        {"销售发票", "销售发票", "01 09 11 32 3201 "},
+    };
+    for (const auto& c : cases) {
+        books.Set("bSaleType", c.saleType);
+        books.Set("cEnDispAccountStyle", c.style);
+        EXPECT_TRUE(books.RunReport({{"vouEstate", "已记账单据,未记账单据"}, kJuly}));
+        for (const char* quantity : {"1", "2", "3"}) {
+            const std::string what = std::string(c.saleType) + " " + c.style + " " + quantity;
+            EXPECT_EQ(kept("委托代销", quantity), c.entrusted) << what;
+            EXPECT_EQ(kept("委托", quantity), c.entrusted) << what;
+            EXPECT_EQ(kept("分期收款", quantity), "05 06 5 6 ") << what;
+            EXPECT_EQ(kept("委外加工", quantity), all) << what;
+            EXPECT_EQ(kept("普通销售", quantity), all) << what;
+        }
+    }
+    EXPECT_TRUE(books.RunReport({{"vouEstate", "已记账单据"}, kJuly}));
+    EXPECT_EQ(kept("委托", "2"), all) << "of the ledger alone nothing goes";
+    EXPECT_EQ(kept("分期收款", "3"), all);
 }
 
 TEST_F(SalesOfTheStockSummary, LeaveNoDirectLineOfAnySourceUnlessItIsAskedFor)

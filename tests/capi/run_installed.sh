@@ -22,7 +22,7 @@ else
     echo "no pkg-config here: only CMake is tried"
 fi
 
-cmake -S "$source/examples/c" -B "$work/build" -DCMAKE_PREFIX_PATH="$work/moved" -DCMAKE_C_COMPILER="$cc" \
+cmake -S "$source/examples/c" -B "$work/build" -G Ninja -DCMAKE_PREFIX_PATH="$work/moved" -DCMAKE_C_COMPILER="$cc" \
     -DCMAKE_C_FLAGS="${flags[*]}" >/dev/null
 cmake --build "$work/build" >/dev/null
 "$run" "$work/build/capital-share" "$account" "$year"

@@ -119,8 +119,6 @@ CompletionModel ModelOf(const CLI::App& program)
     CompletionModel model;
     AddCommandsBelow(program, "", model);
     for (const host::Report& report : host::AllReports()) {
-        if (!host::IsBuilt(report))
-            continue;
         CompletionReport entry{std::string(report.name), std::string(report.titleEnglish), {}};
         for (const host::FilterField& field : host::TemplateOf(report.name).fields)
             entry.keys.push_back(field.key);

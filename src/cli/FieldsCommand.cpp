@@ -88,7 +88,7 @@ TextRows Opened(const host::Report& report, host::Dialog& dialog, const std::str
 
 void ListFields(const CLI::App& command, const ReportFlags& flags)
 {
-    const host::Report& report = ReportOf(command, flags, host::FindFilterOf);
+    const host::Report& report = ReportOf(command, flags);
     const host::FilterInput input = InputOf(report, flags.filter);
     RowsTarget target(flags.output);
 

@@ -29,7 +29,7 @@ struct LookupFlags : ReportFlags {
 
 void Look(const CLI::App& command, const LookupFlags& flags)
 {
-    const host::Report& report = ReportOf(command, flags, host::FindFilterOf);
+    const host::Report& report = ReportOf(command, flags);
     if (flags.key.empty())
         throw host::UsageError(
             fmt::format("lookup needs the key of a field. The keys: kavelin fields {}", report.name));

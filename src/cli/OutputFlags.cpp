@@ -5,10 +5,12 @@
 #include "frame/Text.h"
 #include "host/HostErrors.h"
 #include "host/output/ChosenColumns.h"
+#include "host/output/TableLayout.h"
 
 #include <fmt/format.h>
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <charconv>
 #include <iostream>
 
@@ -17,6 +19,15 @@ namespace kavelin::cli {
 namespace {
 
 const host::LocalText kTotal = {"合计", "Total"};
+
+// The place, from 0, of the first name in `list` that means the column; nothing if none does.
+std::optional<int> PlaceIn(std::string_view list, const std::string& column)
+{
+    const std::vector<std::string> names = host::ColumnNames(std::string(list));
+    const auto found =
+        std::ranges::find_if(names, [&](const std::string& name) { return host::FitsColumn(name, column); });
+    return found == names.end() ? std::nullopt : std::optional(static_cast<int>(found - names.begin()));
+}
 
 }  // namespace
 
@@ -83,10 +94,19 @@ void RowsTarget::WriteChosen(Recordset& rows)
     }
     const std::vector<std::string> columns =
         blnColumnsGiven ? lstColumns : host::FindColumns(rows, lstColumns);
+    if (!objFit.whole.empty())
+        for (const std::string& column : columns)
+            objOptions.columns.push_back(FitOf(column));
     WriteAll(*host::ChooseColumns(rows, columns));
     if (!blnColumnsGiven && static_cast<int>(columns.size()) < rows.FieldCount())
         Say(fmt::format("{} of {} columns. --columns all, csv and json show the others.", columns.size(),
                         rows.FieldCount()));
+}
+
+host::TableColumn RowsTarget::FitOf(const std::string& column) const
+{
+    const std::optional<int> spare = blnColumnsGiven ? std::nullopt : PlaceIn(objFit.spare, column);
+    return {column, column, PlaceIn(objFit.whole, column).has_value(), spare ? host::kName + *spare : 0};
 }
 
 void RowsTarget::WriteView(Recordset& rows, Recordset& totals, const std::vector<host::ViewColumn>& columns,

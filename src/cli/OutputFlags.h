@@ -40,6 +40,9 @@ class RowsTarget {
     // show all.
     void SetTableColumns(std::string_view columns);
 
+    // How the columns of a table that is too narrow give way; those that --columns names are all wanted.
+    void SetFit(const host::TableColumns& fit) { objFit = fit; }
+
     // How a table tells the lines of the rows from openings and totals.
     void SetLines(const host::LineMark& lines) { objLines = lines; }
 
@@ -65,11 +68,13 @@ class RowsTarget {
     std::ostream& Stream();
     void WriteChosen(Recordset& rows);
     void WriteAll(Recordset& rows);
+    host::TableColumn FitOf(const std::string& column) const;
 
     host::OutputOptions objOptions;
     std::unique_ptr<host::OutputFile> objFile;  // null: stdout
     std::vector<std::string> lstColumns;        // empty: all
     host::LineMark objLines;
+    host::TableColumns objFit;
     bool blnColumnsGiven = false;  // by the user
     bool blnWritten = false;
 };

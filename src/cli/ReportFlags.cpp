@@ -26,13 +26,12 @@ void AddReportFlags(CLI::App& command, ReportFlags& flags, bool withLimit)
     command.add_flag("--show-sql", flags.showSql, "Show every statement on stderr");
 }
 
-const host::Report& ReportOf(const CLI::App& command, const ReportFlags& flags,
-                             const host::Report& (*find)(std::string_view))
+const host::Report& ReportOf(const CLI::App& command, const ReportFlags& flags)
 {
     if (flags.report.empty())
         throw host::UsageError(
             fmt::format("{} needs the name of a report. The names: kavelin reports", command.get_name()));
-    return find(flags.report);
+    return host::FindReport(flags.report);
 }
 
 void OnReportChosen(CLI::App& command, Action& action, std::shared_ptr<ReportFlags> flags, Action run,

@@ -31,9 +31,8 @@ void AddReportArgument(CLI::App& command, ReportFlags& flags);
 // All the others. `flags` must live as long as the command. `withLimit`: with --columns and --limit.
 void AddReportFlags(CLI::App& command, ReportFlags& flags, bool withLimit);
 
-// The report of the flags as `find` finds it. Throws UsageError, also if none is named.
-const host::Report& ReportOf(const CLI::App& command, const ReportFlags& flags,
-                             const host::Report& (*find)(std::string_view) = host::FindReport);
+// The report of the flags. Throws UsageError, also if none is named.
+const host::Report& ReportOf(const CLI::App& command, const ReportFlags& flags);
 
 // Makes `run` the command's action; --help shows `reportHelp` if a report is named, else the command's help.
 void OnReportChosen(CLI::App& command, Action& action, std::shared_ptr<ReportFlags> flags, Action run,

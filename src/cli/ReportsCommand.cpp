@@ -14,10 +14,9 @@ void ListReports()
 {
     std::vector<TextRows::Row> rows;
     for (const host::Report& report : host::AllReports())
-        if (host::IsBuilt(report))
-            rows.push_back({std::string(report.name), std::string(report.titleChinese),
-                            std::string(report.titleEnglish), std::string(report.className),
-                            std::string(report.filterId)});
+        rows.push_back({std::string(report.name), std::string(report.titleChinese),
+                        std::string(report.titleEnglish), std::string(report.className),
+                        std::string(report.filterId)});
     WriteList({"name", "名称", "title", "class", "filter"}, std::move(rows));
 }
 

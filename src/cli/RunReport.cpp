@@ -42,6 +42,7 @@ void WriteResult(const host::Report& report, host::ReportRun& run, RowsTarget& t
     const std::unique_ptr<Recordset> rows = run.OpenResult();
     work.EndProgress();
     target.SetTableColumns(run.TableColumns());
+    target.SetFit(report.table);
     target.SetLines(report.lines);
     target.SetMarks(report.marks);
     target.Write(*work.Stoppable(*rows));

@@ -36,20 +36,16 @@ struct Member {
 };
 
 struct PublicClass {
-    std::string_view name;                   // without "Kavelin."
-    std::span<const Member> members;         // in the order of the public interface
-    std::shared_ptr<LateBound> (*create)();  // null while the class is not part of this build
+    std::string_view name;            // without "Kavelin."
+    std::span<const Member> members;  // in the order of the public interface
+    std::shared_ptr<LateBound> (*create)();
 };
 
 // All public classes.
 std::span<const PublicClass> PublicClasses();
 
-// A new object of the class, named without regard to case. Throws Error if there is no such class, or if
-// this build doesn't hold it.
+// A new object of the class, named without regard to case. Throws Error if there is no such class.
 std::shared_ptr<LateBound> CreateObject(std::string_view progId);
-
-// Whether CreateObject makes one.
-bool CanCreate(std::string_view progId);
 
 // The goods-in-transit template, which no public class leads to: a late-bound object with the method
 // CreateNewTemplate(filter, table), which works on gcnnAccount.

@@ -9,7 +9,8 @@ namespace kavelin {
 // behind the fiscal year of the archive date: months of that year stay out, also those behind the date.
 std::string SelectOpenMonths(const std::string& strAccountId);
 
-// Fills gdicAccMonth anew from the database: key "200807", item "2008.07". On a failure it is left empty.
+// Fills gdicAccMonth anew from the database: key "200807", item "2008.07". A query that fails leaves
+// it empty.
 void InitAccMonth();
 
 // All items of gdicAccMonth twice, for the two boxes of a pair: "2008.01{#}2008.02{##}2008.01{#}2008.02".

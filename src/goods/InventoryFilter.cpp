@@ -33,7 +33,7 @@ bool TakeItem(FilterItem& item, InventoryConditions& conditions, Clauses& clause
         clauses.business += GoodsBusinessClause(FilterText(item.varValue()));
     else if (named("iUnitNumber"))
         conditions.lngUnitNumber = GoodsUnitNumber(item.varValue());
-    else if (named("Ia_Ensubsidiary.dVouDate") || named("Ia_Ensubsidiary.dKeepDate"))
+    else if (IsGoodsDate(name))
         AddGoodsDates(clauses.period, name, FilterText(item.varValue()), FilterText(item.varValue2()));
     else
         return false;

@@ -143,7 +143,13 @@ void Dialog::SetField(const FieldInput& given, ValuePolicy policy)
         throw UsageError(fmt::format("{}: the dialog has locked this field ({}).", given.field->key,
                                      given.field->caption.In(objSession.Login()->LanguageRegion())));
     objFilter->Fill(policy == ValuePolicy::Checked ? Offered(given, *item) : given);
-    TellChange(given.field->key);
+    try {
+        TellChange(given.field->key);
+    } catch (const ConversionError& error) {
+        // A year without which there are no months: the rule's error alone doesn't tell which field it means.
+        throw UsageError(
+            fmt::format("{}: {}; it takes {}.", given.field->key, error.what(), WhatItTakes(*given.field)));
+    }
 }
 
 void Dialog::TellChange(const std::string& key)

@@ -41,7 +41,8 @@ class Dialog {
 
     // Takes the values that the user gave, in the template's order; every other field keeps what the dialog
     // put into it. Throws UsageError for a locked field, for a value that the field's list doesn't offer (not
-    // under the legacy policy), and if a later value's rule took an earlier one away.
+    // under the legacy policy) or that a callback can't read, such as an empty year, and if a later value's
+    // rule took an earlier one away.
     void Set(const FilterInput& input);
 
     // OK. Throws UsageError if a mandatory value is missing, and FilterRefused if the dialog's check says no;

@@ -5,9 +5,12 @@
 #include "frame/Text.h"
 #include "host/FieldValues.h"
 #include "host/HostErrors.h"
+#include "host/Log.h"
 
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
+
+#include <algorithm>
 
 namespace kavelin::host {
 
@@ -30,6 +33,17 @@ std::string TextOf(const FilterField& field, const json& value)
         return "";
     throw UsageError(fmt::format("{}: {} is not what it takes, which is {}.", field.key, value.dump(),
                                  WhatItTakes(field)));
+}
+
+// Codes of letters, digits and signs, which every collation orders alike but for their case. Others are the
+// server's to order.
+bool IsProbablyReversed(std::string_view from, std::string_view to)
+{
+    const auto isAscii = [](std::string_view text) {
+        return !text.empty() &&
+               std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    };
+    return isAscii(from) && isAscii(to) && ToLower(from) > ToLower(to);
 }
 
 // Numbers and months by value, dates by day; texts are left to the server's collation.
@@ -161,6 +175,11 @@ void FilterInput::Take(std::size_t position, std::string_view value)
         return;
     }
     const bool split = field.multiple && field.separator == ',';
+    if (field.multiple && !split && value.find(',') != std::string_view::npos)
+        LogWarning(
+            fmt::format("{}: \"{}\" is one value, since a value may hold commas here; several are given by "
+                        "as many --set.",
+                        field.key, value));
     for (const std::string& one : split ? Split(value, ",") : std::vector<std::string>{std::string(value)})
         if (std::string checked = CheckedValue(field, one, enmPolicy); !checked.empty())
             input.values.push_back(std::move(checked));
@@ -177,6 +196,10 @@ void FilterInput::TakeRange(std::size_t position, std::string_view from, std::st
     if (IsReversed(field.kind, input.from, input.to))
         throw UsageError(fmt::format("{}: the range begins with {} and ends before it, with {}.", field.key,
                                      input.from, input.to));
+    if ((field.kind == FieldKind::Reference || field.kind == FieldKind::Text) &&
+        IsProbablyReversed(input.from, input.to))
+        LogWarning(fmt::format("{}: the range begins with {} and ends with {}; nothing may lie between them.",
+                               field.key, input.from, input.to));
 }
 
 }  // namespace kavelin::host

@@ -1,5 +1,6 @@
 #include "host/HostFilterItem.h"
 
+#include "frame/FilterWalk.h"
 #include "frame/Text.h"
 #include "host/FieldValues.h"
 #include "host/HostResources.h"
@@ -9,6 +10,15 @@
 namespace kavelin::host {
 
 namespace {
+
+// What a flag holds, and the text that is shown for it.
+constexpr struct {
+    std::string_view value;
+    const char* textKey;
+} kFlagValues[] = {
+    {kYes, "Orvo.IA.CHHSSQL.06653"},
+    {kNo, "Orvo.IA.CHHSSQL.06654"},
+};
 
 bool IsSelect(std::string_view source)
 {
@@ -39,6 +49,9 @@ std::vector<Choice> HostFilterItem::Choices(bool second) const
     if (values.empty() && !IsSelect(strListSource))
         values = Split(strListSource, ",");
     std::erase(values, "");
+    if (values.empty() && objField.kind == FieldKind::Flag)
+        for (const auto& flag : kFlagValues)
+            values.emplace_back(flag.value);
 
     std::vector<Choice> choices;
     for (std::string& value : values) {
@@ -80,6 +93,10 @@ std::string HostFilterItem::CaptionOf(const std::string& value) const
     for (const ListEntry& entry : objField.entries)
         if (entry.value == value)
             return entry.caption.In(strLanguage);
+    if (objField.kind == FieldKind::Flag)
+        for (const auto& flag : kFlagValues)
+            if (flag.value == value)
+                return HostResources(strLanguage, {}).GetResString(flag.textKey);
     std::string type = state.listEnumType.empty() ? objField.enumType : state.listEnumType;
     if (type.empty() && objField.kind == FieldKind::Month)
         type = "IA.Month";

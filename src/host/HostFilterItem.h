@@ -57,7 +57,11 @@ class HostFilterItem : public FilterItem {
     // The value as a user would write it: "A", "A..B", "A,B"; empty without one.
     std::string Shown() const;
 
-    // What the drop-down of the first or the second box offers; nothing for a field that has none.
+    // The text that stands for one of its values in the reader's language; empty if the value is shown as it is.
+    std::string CaptionOf(const std::string& value) const;
+
+    // What the drop-down of the first or the second box offers, a flag its yes and no; nothing for a field that
+    // has none.
     std::vector<Choice> Choices(bool second) const;
 
     bool HasLookup() const { return !LookupSelect().empty() || !objField.lookup.from.empty(); }
@@ -71,7 +75,6 @@ class HostFilterItem : public FilterItem {
   private:
     Value Stored(const Value& value) const;
     std::string CodeOf(const std::string& shown) const;
-    std::string CaptionOf(const std::string& value) const;
 
     FilterField objField;
     std::string strLanguage;

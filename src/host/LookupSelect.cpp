@@ -6,6 +6,7 @@
 #include "host/FieldCondition.h"
 #include "host/FieldValues.h"
 
+#include <algorithm>
 #include <charconv>
 #include <optional>
 #include <span>
@@ -216,12 +217,16 @@ std::string LookupSelect::Search(std::string_view text) const
 std::string LookupSelect::Select(std::size_t rows, const std::vector<std::string>& conditions) const
 {
     std::vector<std::string> items, order;
-    for (const Column* column : Shown())
-        items.push_back(Named(*column));
     for (const Order& term : lstOrder)
         order.push_back(Named(lstColumns[term.column]) + (term.descending ? " desc" : ""));
+    for (const Column* column : Shown()) {
+        items.push_back(Named(*column));
+        const auto ordered = [&](const Order& term) { return &lstColumns[term.column] == column; };
+        if (std::ranges::none_of(lstOrder, ordered))
+            order.push_back(items.back());
+    }
     return "select top " + std::to_string(rows) + " " + JoinTexts(items, ", ") + Source(conditions) +
-           (order.empty() ? "" : " order by " + JoinTexts(order, ", "));
+           " order by " + JoinTexts(order, ", ");
 }
 
 std::string LookupSelect::SelectCount(const std::vector<std::string>& conditions) const

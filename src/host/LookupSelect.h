@@ -8,7 +8,7 @@
 //
 //   select top 21 Lookup.[仓库编码], Lookup.[仓库名称]
 //     from (SELECT WareHouse.cWhCode as [仓库编码] ,WareHouse.cWhName as [仓库名称]  FROM WareHouse) Lookup
-//    where Lookup.[仓库编码] like N'01%' order by Lookup.[仓库编码]
+//    where Lookup.[仓库编码] like N'01%' order by Lookup.[仓库编码], Lookup.[仓库名称]
 //
 // The order stands outside, since a server takes none within a derived table.
 #pragma once
@@ -45,7 +45,8 @@ class LookupSelect {
     std::string Search(std::string_view text) const;
 
     // The shown columns of the first `rows` rows that the conditions let through; empty conditions don't
-    // count.
+    // count. Rows that the lookup's own order leaves equal are ordered by what is shown, so that no row is
+    // lost or seen twice between two pages.
     std::string Select(std::size_t rows, const std::vector<std::string>& conditions) const;
 
     // The number of all of them.

@@ -24,7 +24,7 @@ struct FormatColumn {
 // report.
 class ReportManager : public LateBound {
   public:
-    // `columns` as of Report::tableColumns; without any there is no format. `refresh` draws the report again.
+    // `columns` as of TableColumns::names; without any there is no format. `refresh` draws the report again.
     ReportManager(std::string_view columns, std::function<void()> refresh);
 
     // Those that are visible, with commas between.

@@ -26,8 +26,8 @@ bool TableExists(Connection& connection, const std::string& table)
     return !rows->Eof();
 }
 
-// "会计年度 2008  ·  会计月份 6月". Lists and flags tell how to show something, not of what. A report that was told
-// nothing is about the login's year.
+// "会计年度 2008  ·  会计月份 6月". Lists and flags tell how to show something, not of what, unless a list must be
+// chosen from, as the price with which others are compared. A report that was told nothing is about the login's year.
 std::string SubjectOf(const HostFilter& filter, LoginContext& login)
 {
     const std::string language = login.LanguageRegion();
@@ -35,8 +35,12 @@ std::string SubjectOf(const HostFilter& filter, LoginContext& login)
     for (const auto& item : filter.Items()) {
         const FilterField& field = item->Field();
         std::string value = item->Shown();
-        if (value.empty() || field.kind == FieldKind::List || field.kind == FieldKind::Flag)
+        if (value.empty() || field.kind == FieldKind::Flag ||
+            (field.kind == FieldKind::List && !field.mandatory))
             continue;
+        if (const std::string caption = item->CaptionOf(value);
+            field.kind == FieldKind::List && !caption.empty())
+            value = caption;
         if (language == kEnglish && field.kind == FieldKind::Month)
             value = ReplaceAll(value, kMonthSign, "");
         subject += (subject.empty() ? "" : "  ·  ") + field.caption.In(language) + " " + value;
@@ -140,7 +144,7 @@ void ReportRun::Run(const Report& report, const FilterInput& input, const Afterw
     objReport = &report;
     strSubject = SubjectOf(*dialog.Filter(), *objSession.Login());
     strTable = "KavelinResult_" + HexDigits(RandomGuid());
-    objManager = std::make_shared<ReportManager>(report.tableColumns, [this] {
+    objManager = std::make_shared<ReportManager>(report.table.names, [this] {
         if (objDraw)
             objDraw();
     });

@@ -51,7 +51,7 @@ class ReportRun {
     // The rows of the latest run in the report's order. Throws DatabaseError.
     std::unique_ptr<Recordset> OpenResult();
 
-    // Columns that the report's table shows, as Report::tableColumns, without those that the latest run took
+    // Columns that the report's table shows, as TableColumns::names, without those that the latest run took
     // out of the view.
     std::string TableColumns() const { return objManager->VisibleColumns(); }
 

@@ -1,8 +1,6 @@
 #include "host/Reports.h"
 
-#include "component/Component.h"
 #include "frame/Text.h"
-#include "host/DataFiles.h"
 #include "host/HostErrors.h"
 #include "host/LocalText.h"
 #include "host/ValueGate.h"
@@ -43,44 +41,54 @@ constexpr RowAction kCostLedgerActions[] = {
     {"DifPZ", "the voucher of the cost differences"},
 };
 
-// Of the wide results what a reader of a journal looks for first.
-constexpr std::string_view kJournalColumns =
-    "单据日期,单据号,凭证号,业务类型,仓库,存货编码,存货名称,收入数量,收入单价,收入金额,发出数量,发出单价,发出金额";
-constexpr std::string_view kStandardCostColumns =
+// Of the wide results what a reader looks for first.
+constexpr TableColumns kJournalTable = {
+    "单据日期,单据号,凭证号,业务类型,仓库,存货编码,存货名称,收入数量,收入单价,收入金额,发出数量,发出单价,发出金额",
+    "单据日期,单据号,存货编码", "存货名称,凭证号,业务类型,仓库,发出单价,收入单价"};
+constexpr TableColumns kStandardCostTable = {
     "dvoudate,cvoucode,ipzcode,cbustype,cwhname,cinvcode,iinquantity,istdinprice,iindif,iinprice,ioutquantity,"
-    "istdoutprice,ioutdif,ioutprice";
-
-constexpr std::string_view kEstimateColumns =
-    "cVouCode,dVouDate,cVouTypeName,cBusType,cVenName,cInvCode,cInvName,QcQuantity,QcMoney,InQuantity,InMoney,"
-    "Outquantity,OutMoney,QmQuantity,QmMoney";
-
-constexpr std::string_view kTemplateColumns =
-    "单据日期,发货单号,出库单号,业务类型,存货_编码,存货_名称,期初_数量,期初_金额,收入_数量,收入_金额,发出_数量,发出_金额,结存_数量,结存_金额";
-
-constexpr std::string_view kGoodsSummaryColumns =
-    "cDLCode,cCode,dVouDate,cInvCode,cInvName,Q_Quantity,Q_Price,R_Quantity,R_Price,D_Quantity,D_Price,E_Quantity,"
-    "E_Price";
-
-// Of one cost item, or of their total where all are shown.
-constexpr std::string_view kCostSummaryColumns =
-    "cDLCode,cCode,cInvCode,cInvName,Q_Qty,Q_*_RealCost,R_Qty,R_*_RealCost,D_Qty,D_*_RealCost,E_Qty,E_*_RealCost";
-constexpr std::string_view kCostLedgerColumns =
-    "dKeepDate,cVouchName,cVouCode,cPZNo,R_Qty,R_*_UnitRealCost,R_*_RealCost,D_Qty,D_*_UnitRealCost,D_*_RealCost,"
-    "E_Qty,E_*_UnitRealCost,E_*_RealCost";
-
-constexpr std::string_view kPriceColumns =
-    "dVouDate,cVouCode,cVouTypeName,cBusType,cWhName,cInvCode,cInvName,cBatchia,Price,BasePrice,Ratio,DiffRatio,"
-    "ReferenceCost,ExPrice,InPrice,AvgPrice,Balanceunit";
-constexpr std::string_view kStockLineColumns =
+    "istdoutprice,ioutdif,ioutprice",
+    "dvoudate,cvoucode,cinvcode", "ipzcode,cbustype,cwhname"};
+constexpr TableColumns kStockLinesTable = {
     "cInvCode,cInvName,cwhname,cvoutype,cbustype,crdname,QcQuantity,QcPrice,InQuantity,InPrice,OutQuantity,"
-    "OutPrice";
+    "OutPrice",
+    "cInvCode", "cInvName,crdname,cwhname,cbustype"};
+constexpr TableColumns kEstimateTable = {
+    "cVouCode,dVouDate,cVouTypeName,cBusType,cVenName,cInvCode,cInvName,QcQuantity,QcMoney,InQuantity,InMoney,"
+    "Outquantity,OutMoney,QmQuantity,QmMoney",
+    "cVouCode,dVouDate,cInvCode", "cInvName,cVenName,cBusType,cVouTypeName"};
+
+constexpr TableColumns kTemplateTable = {
+    "单据日期,发货单号,出库单号,业务类型,存货_编码,存货_名称,期初_数量,期初_金额,收入_数量,收入_金额,发出_数量,发出_金额,结存_数量,结存_金额",
+    "单据日期,发货单号,出库单号,存货_编码", "存货_名称,业务类型"};
+constexpr TableColumns kGoodsSummaryTable = {
+    "cDLCode,cCode,dVouDate,cInvCode,cInvName,Q_Quantity,Q_Price,R_Quantity,R_Price,D_Quantity,D_Price,E_Quantity,"
+    "E_Price",
+    "cDLCode,cCode,dVouDate,cInvCode", "cInvName,dVouDate"};
+// Of one cost item, or of their total where all are shown.
+constexpr TableColumns kCostSummaryTable = {
+    "cDLCode,cCode,cInvCode,cInvName,Q_Qty,Q_*_RealCost,R_Qty,R_*_RealCost,D_Qty,D_*_RealCost,E_Qty,E_*_RealCost",
+    "cDLCode,cCode,cInvCode", "cInvName"};
+// A ledger is what came, what went and what is left; what that is a unit, a reader can work out.
+constexpr TableColumns kCostLedgerTable = {
+    "dKeepDate,cVouchName,cVouCode,cPZNo,R_Qty,R_*_UnitRealCost,R_*_RealCost,D_Qty,D_*_UnitRealCost,D_*_RealCost,"
+    "E_Qty,E_*_UnitRealCost,E_*_RealCost",
+    "dKeepDate,cVouCode", "cVouCode,cPZNo,cVouchName,*_UnitRealCost"};
+
+constexpr TableColumns kPriceTable = {
+    "dVouDate,cVouCode,cVouTypeName,cBusType,cWhName,cInvCode,cInvName,cBatchia,Price,BasePrice,Ratio,DiffRatio,"
+    "ReferenceCost,ExPrice,InPrice,AvgPrice,Balanceunit",
+    "dVouDate,cVouCode,cInvCode",
+    "cInvName,ReferenceCost,ExPrice,InPrice,AvgPrice,Balanceunit,cBatchia,cWhName,cBusType,cVouTypeName"};
 
 // Of the dates all rows say the same.
-constexpr std::string_view kTurnoverColumns =
+constexpr TableColumns kTurnoverTable = {
     "部门_编码,部门_名称,仓库_编码,仓库_名称,存货_分类,存货_编码,存货_名称,存货_代码,存货_规格,存货_单位,分析_期初余额,分析_期末余额,"
-    "分析_平均库存,分析_出库成本,分析_出库数量,分析_周转率,分析_周转天数";
-constexpr std::string_view kAbcColumns =
-    "存货_编码,存货_名称,存货_规格,存货_单位,分析_数量,分析_数量比例,分析_金额,分析_金额比例,分析_ABC类别";
+    "分析_平均库存,分析_出库成本,分析_出库数量,分析_周转率,分析_周转天数",
+    "存货_分类,存货_编码", "存货_名称,部门_名称,仓库_名称,存货_规格,存货_单位,存货_代码"};
+constexpr TableColumns kAbcTable = {
+    "存货_编码,存货_名称,存货_规格,存货_单位,分析_数量,分析_数量比例,分析_金额,分析_金额比例,分析_ABC类别",
+    "存货_编码", "存货_名称,存货_规格,存货_单位"};
 
 constexpr ColumnMark kTurnoverMarks[] = {{"分析_周转率", MarkKind::Share}};
 constexpr ColumnMark kAbcMarks[] = {
@@ -91,39 +99,42 @@ constexpr ColumnMark kAbcMarks[] = {
 constexpr ColumnMark kPriceMarks[] = {{"DiffRatio", MarkKind::Deviation}};
 constexpr ColumnMark kCapitalMarks[] = {{"所占比重", MarkKind::Share}};
 
-// Two lines a report: name, titles; class, filter identity, order, statements.
+// A report: name, titles; class, filter identity, order, statements. An order names columns that each run's result
+// has, enough of them that two hosts show the same rows in the same places.
 // clang-format off
 constexpr Report kReports[] = {
     {"journal", "流水账", "Inventory journal",
-     "ClsWtInfo", "IA[__]流水账", "", 0, kJournalColumns, kJournalActions},
+     "ClsWtInfo", "IA[__]流水账", "", 0, kJournalTable, kJournalActions},
     {"standard-cost-journal", "标准成本流水账", "Standard-cost journal",
      "clsStaCostacc", "C921AEDB-0DCD-4185-BCAA-00326BC8504F", "", 0,
-     kStandardCostColumns, kStandardCostActions},
+     kStandardCostTable, kStandardCostActions},
     {"stock-summary", "收发存汇总表", "Receipt-issue-balance summary",
      "clsSfcSumInfo", "F3D99620-46E3-465E-97C7-ECD73735B108", "cInvCode, cwhcode, bacc, id", 0,
-     kStockLineColumns, {}, {}, {}, &kStockDefinition},
+     kStockLinesTable, {}, {}, {}, &kStockDefinition},
     {"estimate-balance", "暂估材料余额表", "Estimate balance",
-     "clsLastRep", "AE8206FE-FE76-4B18-9976-18400D11A2FA", "ID, cVouType", 0, kEstimateColumns},
+     "clsLastRep", "AE8206FE-FE76-4B18-9976-18400D11A2FA", "ID, cVouType", 0, kEstimateTable},
     {"goods-summary", "发出商品汇总表", "Goods-in-transit summary",
-     "clsFCSumInfo", "IA[__]发出商品汇总表", "iSrcID, cSRcVoutype", 0, kGoodsSummaryColumns},
+     "clsFCSumInfo", "IA[__]发出商品汇总表", "iSrcID, cSRcVoutype", 0, kGoodsSummaryTable},
     {"goods-template", "发出商品余额模板", "Goods-in-transit template",
-     "", "", "存货大类_编码, 仓库_编码, 发货单号, 出库单号", 0, kTemplateColumns, {}, {}, {}, nullptr,
-     ReportEntry::Template},
+     "", "",
+     "存货大类_编码, 仓库_编码, 发货单号, 出库单号, 单据日期, 记账日期, 期初_数量, 期初_金额, 收入_数量, 收入_金额, "
+     "发出_数量, 发出_金额",
+     0, kTemplateTable, {}, {}, {}, nullptr, ReportEntry::Template},
     {"goods-cost-summary", "发出商品成本项目汇总表", "Goods-in-transit summary by cost item",
      "ClsFCInventory", "AD454C72-A5FF-4949-AF35-EA0CBAA02803", "iSrcID, cSRcVoutype", 0,
-     kCostSummaryColumns},
+     kCostSummaryTable},
     {"goods-cost-ledger", "发出商品成本项目明细账", "Goods-in-transit ledger by cost item",
      "ClsOutDetailInfo", "3C19A4D5-F302-4216-91C4-1F65F7817AFC", "imonth, ino", 0,
-     kCostLedgerColumns, kCostLedgerActions, {}, {"flag", "1"}},
+     kCostLedgerTable, kCostLedgerActions, {}, {"flag", "1"}},
     {"price-analysis", "存货价格分析", "Inventory price analysis",
-     "clsIaAnalysis", "IA[__]存货价格分析", "dVouDate, cVouType, autoid", 42, kPriceColumns, kPriceActions,
+     "clsIaAnalysis", "IA[__]存货价格分析", "dVouDate, cVouType, autoid", 42, kPriceTable, kPriceActions,
      kPriceMarks},
     {"turnover", "存货周转率分析", "Inventory turnover analysis",
      "clsCinTurnRep", "IA[__]存货周转率分析", "部门_编码, 仓库_编码, 存货_分类, 存货_编码", 35,
-     kTurnoverColumns, {}, kTurnoverMarks},
+     kTurnoverTable, {}, kTurnoverMarks},
     {"abc", "ABC成本分析", "ABC cost analysis",
      "ClsABC", "IA[__]ABC成本分析", "分析_ABC类别, 分析_金额比例 desc, 存货_编码", 25,
-     kAbcColumns, kAbcActions, kAbcMarks},
+     kAbcTable, kAbcActions, kAbcMarks},
     {"capital-share", "存货资金占用分析", "Capital share",
      "clsProPortion", "2BEEF300-28F0-4716-9D8A-9F0424174763", "cNo", 16, {}, {}, kCapitalMarks},
     {"area-table", "区域存货收发表", "Area-limited data table",
@@ -143,45 +154,15 @@ std::span<const Report> AllReports()
     return kReports;
 }
 
-namespace {
-
-bool HasFilter(const Report& report)
-{
-    return HasDataFile("filters/" + std::string(report.name) + ".json");
-}
-
-const Report& Find(std::string_view name, bool (*isThere)(const Report&))
-{
-    std::vector<std::string_view> there;
-    for (const Report& report : kReports) {
-        if (EqualsNoCase(report.name, name)) {
-            if (!isThere(report))
-                throw UsageError("The report " + std::string(report.name) + " is not part of this build.");
-            return report;
-        }
-        if (isThere(report))
-            there.push_back(report.name);
-    }
-    throw UsageError("There is no report \"" + std::string(name) + "\"." + DidYouMean(name, there));
-}
-
-}  // namespace
-
-bool IsBuilt(const Report& report)
-{
-    const bool made =
-        report.entry == ReportEntry::Template || CanCreate("Kavelin." + std::string(report.className));
-    return made && HasFilter(report);
-}
-
 const Report& FindReport(std::string_view name)
 {
-    return Find(name, IsBuilt);
-}
-
-const Report& FindFilterOf(std::string_view name)
-{
-    return Find(name, HasFilter);
+    std::vector<std::string_view> names;
+    for (const Report& report : kReports) {
+        if (EqualsNoCase(report.name, name))
+            return report;
+        names.push_back(report.name);
+    }
+    throw UsageError("There is no report \"" + std::string(name) + "\"." + DidYouMean(name, names));
 }
 
 }  // namespace kavelin::host

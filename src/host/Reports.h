@@ -30,6 +30,18 @@ struct LineMark {
     std::string_view value;   // of a line
 };
 
+// What the table of a result that is too wide for one shows, each a list of columns separated by commas. A name with
+// a "*" is the first column that it fits; what the result of a run lacks is passed over.
+struct TableColumns {
+    std::string_view names;  // empty: all columns
+    // How they give way on a screen that is too narrow for them. No cell of these is cut: half a day or half a
+    // document's number tells nothing.
+    std::string_view whole = {};
+    // These are left out where a cell would have to be cut for them, the last first. The first of them stays until
+    // the others have no room. Never the report's first column.
+    std::string_view spare = {};
+};
+
 // What the host calls to have a result made.
 enum class ReportEntry {
     Class,     // GETSQL of the public class
@@ -44,9 +56,7 @@ struct Report {
     std::string_view filterId;   // identity of its filter; empty for a report without a dialog
     std::string_view orderBy;    // columns by which its result is read; empty: as the database gives it
     int statements;              // that a usual run sends, for a progress line; 0: not known
-    // What its table shows of a result that is too wide for one, separated by commas; empty: all columns. A
-    // name with a "*" is the first column that it fits; what the result of a run lacks is passed over.
-    std::string_view tableColumns = {};
+    TableColumns table = {};
     // Commands on its result, the usual one first; none: there is nothing to open.
     std::span<const RowAction> actions = {};
     std::span<const ColumnMark> marks = {};  // what its table shows as a picture too
@@ -58,17 +68,10 @@ struct Report {
     std::string_view Title(std::string_view language) const;
 };
 
-// All reports, also those whose class is not built yet.
+// All reports.
 std::span<const Report> AllReports();
 
-// Whether the report's class is there and its filter is described.
-bool IsBuilt(const Report& report);
-
-// The report of that name, without regard to case. Throws UsageError, with the nearest name if there is
-// one, and if the report is not built.
+// The report of that name, without regard to case. Throws UsageError, with the nearest name if there is one.
 const Report& FindReport(std::string_view name);
-
-// The same for who wants its filter only: also of a report whose class is not built.
-const Report& FindFilterOf(std::string_view name);
 
 }  // namespace kavelin::host

@@ -56,17 +56,18 @@ class Viewer : public LateBag {
                 objSettings.onShow(rows.title.In(objSettings.language) + " " + what, *rows.rows);
     }
 
-  private:
     void Tell(const std::string& text) const
     {
         if (objSettings.onMessage)
             objSettings.onMessage({text, kWarning});
     }
 
+  private:
     ViewerSettings objSettings;
 };
 
 const LocalText kNoDocument = {"账套中没有单据 ", "The account has no document "};
+const LocalText kNoKey = {"该行没有指明单据。", "The row names no document."};
 
 // Corvane.clsUniVch: documents.
 class DocumentViewer : public Viewer {
@@ -108,7 +109,10 @@ class DocumentViewer : public Viewer {
 
     void ShowBy(Connection& account, const std::string& vouType, DocumentKey by, const std::string& key)
     {
-        Viewer::Show(FindDocument(account, vouType, by, key), vouType + " " + key, kNoDocument);
+        if (key.empty())  // an opening, a total, or a row of a report that keeps no identity
+            Tell(kNoKey.In(Settings().language));
+        else
+            Viewer::Show(FindDocument(account, vouType, by, key), vouType + " " + key, kNoDocument);
     }
 };
 

@@ -209,8 +209,8 @@ std::string CheckedValue(const FilterField& field, std::string_view value, Value
         case FieldKind::Year: return CheckedForm(field, trimmed, YearText);
         case FieldKind::Month: return CheckedForm(field, trimmed, MonthText);
         case FieldKind::Period: return CheckedForm(field, trimmed, PeriodText);
-        case FieldKind::Text:
-        case FieldKind::Reference: break;
+        case FieldKind::Reference: return std::string(trimmed);
+        case FieldKind::Text: break;
     }
     return std::string(value);
 }

@@ -22,7 +22,8 @@ constexpr std::size_t kLongestValue = 4000;  // characters
 std::optional<std::string> Objection(std::string_view value);
 
 // The value as the report takes it: a date as YYYY-MM-DD, a list entry in its own spelling, a flag as 是 or 否,
-// years and months as host/FieldValues.h tells, numbers without blanks around them, everything else as it is.
+// years and months as host/FieldValues.h tells, numbers and codes without blanks around them ("01, 02" names
+// two warehouses), a text as it is.
 // An empty value stays empty: it sets nothing. Throws UsageError, naming the key and what it takes, for a
 // value of the wrong kind and for one with an objection, unless the policy lets it through; the log then has
 // a warning.

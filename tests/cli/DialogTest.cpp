@@ -65,6 +65,8 @@ TEST_F(DialogCommandTest, FieldsShowsADialogAsItOpens)
     EXPECT_EQ(FieldOf({"standard-cost-journal"}, "cDepCode").at("locked"), "locked");
     EXPECT_EQ(FieldOf({"goods-summary"}, "iYear").at("takes"), "mandatory");
     EXPECT_EQ(FieldOf({"area-table"}, "IADataTable").at("kind"), "text");
+    EXPECT_EQ(FieldOf({"abc"}, "inclua").at("offers"), "是, 否");
+    EXPECT_EQ(FieldOf({"abc", "--language", "en-US"}, "inclua").at("offers"), "是 (Yes), 否 (No)");
 
     const Outcome table = OnDemo({"fields", "journal"});
     EXPECT_NE(table.out.find("单据状态"), std::string::npos) << table.out;

@@ -111,8 +111,6 @@ TEST_F(ServerAccountTest, EveryReportGivesTheRowsOfTheEmbeddedAccount)
     };
     std::map<std::string, std::vector<std::string>> commands;
     for (const host::Report& report : host::AllReports()) {
-        if (!host::IsBuilt(report))
-            continue;
         std::vector<std::string>& command = commands[std::string(report.name)];
         command = {"run", std::string(report.name), "--format", "csv"};
         if (const auto set = needed.find(command[1]); set != needed.end())

@@ -110,9 +110,13 @@ TEST(CheckFilterPrice, WantsBothMonthsInOneYear)
 
 TEST(CheckFilterPrice, FailsOnAMonthThatIsNone)
 {
-    RecordingHost host;
-    Dialog dialog(host, kPriceAnalysis, {{"avgPrice", "2008.01", ""}});
-    EXPECT_THROW(dialog.Click(), ConversionError);
+    const std::pair<const char*, const char*> pairs[] = {
+        {"2008.01", ""}, {"", "2008.01"}, {"", ""}, {"July.2008", "2008.07"}};
+    for (const auto& [from, to] : pairs) {
+        RecordingHost host;
+        Dialog dialog(host, kPriceAnalysis, {{"avgPrice", from, to}});
+        EXPECT_THROW(dialog.Click(), ConversionError) << from << " to " << to;
+    }
 }
 
 TEST(CheckFilterStockSummary, WantsItemsOfTheClassThatStandsBeforeThem)

@@ -148,10 +148,17 @@ TEST(AChangeOfYear, AsksForTheYearAsAWholeNumber)
     dialog.Change("ia_subsidiary.iyear");
     EXPECT_NE(host.Events().Text().find("LedgerPub.GetYearMonthRange 2007\n"), std::string::npos);
 
-    for (const char* year : {"abc", "", "2008年"}) {
-        dialog.Type("ia_subsidiary.iyear", year);
-        EXPECT_THROW(dialog.Change("ia_subsidiary.iyear"), ConversionError) << year;
-        EXPECT_EQ(dialog.Made(), Changes{});
+    const std::pair<std::string_view, const char*> dialogs[] = {
+        {kEstimate, "ia_subsidiary.iyear"}, {kDetailLedger, "IA_EnSubsidiary.iYear"}, {kAbc, "iYear"}};
+    for (const auto& [identity, key] : dialogs) {
+        for (const Value& year : {Value("abc"), Value(""), Value("2008年")}) {
+            Dialog other(host, identity,
+                         {{key}, {"ia_subsidiary.iMonth"}, {"IA_EnSubsidiary.iMonth"}, {"iPeriod"}});
+            other.Open();
+            other.Type(key, year);
+            EXPECT_THROW(other.Change(key), ConversionError) << key << " " << ToText(year);
+            EXPECT_EQ(other.Made(), Changes{}) << key;
+        }
     }
 }
 

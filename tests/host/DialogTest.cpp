@@ -74,7 +74,7 @@ class DialogTest : public testing::Test {
     std::unique_ptr<Dialog> Open(const std::string& report)
     {
         strReport = report;
-        return std::make_unique<Dialog>(*objSession, FindFilterOf(report), objControl);
+        return std::make_unique<Dialog>(*objSession, FindReport(report), objControl);
     }
 
     FilterInput Input(std::initializer_list<std::string_view> assignments,
@@ -139,6 +139,25 @@ TEST_F(DialogTest, AnEmptyValueTakesTheDialogsDefaultAwayAndIsTold)
     dialog->Set(Input({"iyear="}));
     EXPECT_EQ(dialog->Filter()->Find("iyear")->From(), "");
     EXPECT_NE(objControl->log.find("ValueChange(iyear )"), std::string::npos);
+}
+
+TEST_F(DialogTest, NamesTheFieldWhoseValueACallbackCannotRead)
+{
+    objControl->does["CallBack_ValueChange"] = [](ReportFilterObject& filter, auto& arguments) {
+        if (ToText(ValueOf(arguments[0], "key")) == "iyear")
+            ToInt32(filter.FilterList()->Item("iyear")->varValue());
+    };
+    const auto dialog = Open("abc");
+    EXPECT_EQ(Refusal([&] { dialog->Set(Input({"iyear="})); }),
+              "iyear: Type mismatch: \"\" is no number; it takes an accounting year, YYYY.");
+    objControl->does["CallBack_ValueChange"] = [](auto&, auto&) { throw Error("The account has no years."); };
+    try {
+        dialog->Set(Input({"iyear=2008"}));
+        FAIL();
+    } catch (const Error& e) {
+        EXPECT_STREQ(e.what(), "The account has no years.") << "other errors stay as they are";
+        EXPECT_EQ(dynamic_cast<const UsageError*>(&e), nullptr);
+    }
 }
 
 TEST_F(DialogTest, RefusesAValueForALockedFieldAtTheMomentWhenItIsSet)

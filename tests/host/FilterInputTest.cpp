@@ -107,7 +107,28 @@ TEST(FilterInput, AddsToAMultipleSelectionAndReplacesAnyOtherValue)
 TEST(FilterInput, SplitsASelectionAtCommasWhereTheReportWill)
 {
     EXPECT_EQ(Set({"cType=x,y"}), "cType=[x|y] ");
+    testing::internal::CaptureStderr();
     EXPECT_EQ(Set({"cTab=x,y", "cTab=z"}), "cTab=[x,y|z] ");
+    const std::string warning = testing::internal::GetCapturedStderr();
+    EXPECT_NE(warning.find("cTab: \"x,y\" is one value"), std::string::npos) << warning;
+    EXPECT_EQ(warning.find("\"z\""), std::string::npos) << warning;
+}
+
+TEST(FilterInput, WarnsOfCodesThatBeginBehindTheirEnd)
+{
+    const struct {
+        const char* assignment;
+        bool warns;
+    } cases[] = {
+        {"cCode=C004..C001", true}, {"cCode=c001..C004", false}, {"cCode=C004..c004", false},
+        {"cCode=C004..", false},    {"cCode=..C001", false},     {"cCode=B..\xE7\x94\xB2", false},
+    };
+    for (const auto& c : cases) {
+        testing::internal::CaptureStderr();
+        Set({c.assignment});
+        const std::string warning = testing::internal::GetCapturedStderr();
+        EXPECT_EQ(warning.find("nothing may lie between them") != std::string::npos, c.warns) << c.assignment;
+    }
 }
 
 TEST(FilterInput, BeginsWithDefaultsThatTheFirstValueReplaces)

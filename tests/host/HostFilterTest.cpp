@@ -227,6 +227,17 @@ TEST(HostFilter, ShowsEntriesInTheLanguageOfTheLoginAndTakesWhatItShows)
     EXPECT_EQ(type.Choices(false).front(), (Choice{"7月", "Month 7"}));
 }
 
+TEST(HostFilter, OffersYesAndNoOfAFlagInTheLanguageOfTheLogin)
+{
+    const auto filter = Filled({"bMerge=yes"});
+    EXPECT_EQ(ItemOf(*filter, "bMerge").From(), "是");
+    EXPECT_EQ(ItemOf(*filter, "bMerge").Choices(false), (std::vector<Choice>{{"是", "是"}, {"否", "否"}}));
+
+    HostFilter english("ID", TestTemplate(),
+                       std::make_shared<HostLogin>(LoginSettings{"", "", "", "", "en-US"}, nullptr));
+    EXPECT_EQ(ItemOf(english, "bMerge").Choices(false), (std::vector<Choice>{{"是", "Yes"}, {"否", "No"}}));
+}
+
 TEST(HostFilter, FindsAFieldByItsControlKeyToo)
 {
     const auto filter = Filled({});

@@ -20,7 +20,8 @@ TEST(LookupSelect, WrapsTheSelectAndLetsItsOrderStandOutside)
     const LookupSelect lookup(kWarehouses);
     EXPECT_EQ(lookup.Captions(), (std::vector<std::string>{"仓库编码", "仓库名称"}));
     EXPECT_EQ(lookup.Select(21, {"", ""}), "select top 21 Lookup.[仓库编码], Lookup.[仓库名称] from (" +
-                                               kWarehousesUnordered + ") Lookup order by Lookup.[仓库编码]");
+                                               kWarehousesUnordered +
+                                               ") Lookup order by Lookup.[仓库编码], Lookup.[仓库名称]");
     EXPECT_EQ(lookup.SelectCount({"a = 1", " b = 2 "}),
               "select count(*) from (" + kWarehousesUnordered + ") Lookup where (a = 1) and (b = 2)");
 }
@@ -34,7 +35,7 @@ TEST(LookupSelect, FindsTheColumnsOfAUnionInItsFirstSelectAndTheOrderByCaption)
         lookup.Select(3, {}),
         "select top 3 Lookup.[单据编码], Lookup.[单据类型] from (select cVouchType as [单据编码] ,EnumName  As "
         "[单据类型] from VouchType where cvouchtype in ('05','06') Union select '01','a from b, c order by d' "
-        ") Lookup order by Lookup.[单据编码]");
+        ") Lookup order by Lookup.[单据编码], Lookup.[单据类型]");
 }
 
 TEST(LookupSelect, TakesEveryFormOfAnOrder)
@@ -42,16 +43,15 @@ TEST(LookupSelect, TakesEveryFormOfAnOrder)
     const struct {
         std::string_view order, wanted;
     } cases[] = {
-        {"", ""},
-        {" order by 2 desc", " order by Lookup.[n] desc"},
+        {"", " order by Lookup.[c], Lookup.[n]"},
+        {" order by 2 desc", " order by Lookup.[n] desc, Lookup.[c]"},
         {" order by [t].[C] asc, n", " order by Lookup.[c], Lookup.[n]"},
         {" order by c desc, T . n", " order by Lookup.[c] desc, Lookup.[n]"},
     };
     for (const auto& c : cases) {
         const std::string sql =
             LookupSelect("select distinct t.c as [c], t.n as n from t" + std::string(c.order)).Select(1, {});
-        const auto order = sql.find(" order by ");
-        EXPECT_EQ(order == sql.npos ? "" : sql.substr(order), c.wanted) << c.order;
+        EXPECT_EQ(sql.substr(sql.find(" order by ")), c.wanted) << c.order;
     }
     EXPECT_EQ(LookupSelect("select t.c x, isnull(a, 0) y, left(n, 2) [z] from t order by t.c").Captions(),
               (std::vector<std::string>{"x", "y", "z"}));
@@ -59,6 +59,29 @@ TEST(LookupSelect, TakesEveryFormOfAnOrder)
     EXPECT_THROW(LookupSelect("select c + d from t"), Error);
     EXPECT_THROW(LookupSelect("select 1"), Error);
     EXPECT_THROW(LookupSelect("delete from t"), Error);
+}
+
+// A batch of several items is several rows: pages are read one by one, and the server may order equal rows
+// anew each time.
+TEST(LookupSelect, OrdersByAllThatItShowsAndNoColumnTwice)
+{
+    const auto orderOf = [](const LookupSelect& lookup) {
+        const std::string sql = lookup.Select(1, {});
+        return sql.substr(sql.find(" order by "));
+    };
+    const Lookups lookups = ParseLookups(R"json({"lookups": {
+        "batches": {"from": "L", "distinct": true, "columns": [
+            {"column": "L.cBatch", "caption": {"zh-CN": "批号", "en-US": "Batch"}},
+            {"column": "L.cInvCode", "caption": {"zh-CN": "编码", "en-US": "Code"}},
+            {"column": "L.cID", "hidden": true}]},
+        "latest": {"from": "L", "order": "L.cID desc, L.cInvCode", "columns": [
+            {"column": "L.cBatch", "caption": {"zh-CN": "批号", "en-US": "Batch"}},
+            {"column": "L.cInvCode", "caption": {"zh-CN": "编码", "en-US": "Code"}},
+            {"column": "L.cID", "hidden": true}]}}})json");
+    EXPECT_EQ(orderOf(LookupSelect(lookups.at("batches"), "", "zh-CN")),
+              " order by Lookup.[cBatch], Lookup.[cInvCode]");
+    EXPECT_EQ(orderOf(LookupSelect(lookups.at("latest"), "", "zh-CN")),
+              " order by Lookup.[cID] desc, Lookup.[cInvCode], Lookup.[cBatch]");
 }
 
 TEST(LookupSelect, LooksForTheBeginningOfACodeOrAPartOfAName)

@@ -183,8 +183,15 @@ TEST_F(TheHostsViewers, ShowADocumentWithItsLines)
 TEST_F(TheHostsViewers, TellOfADocumentThatIsNowhere)
 {
     EXPECT_EQ(Document("10", "99"), "! 账套中没有单据 10 99\n");
-    EXPECT_EQ(Document("10", "", "en-US"), "! The account has no document 10 \n");
+    EXPECT_EQ(Document("10", "99", "en-US"), "! The account has no document 10 99\n");
     EXPECT_EQ(Document("20", "it's"), "! 账套中没有单据 20 it's\n");
+}
+
+// As an opening or a total does not.
+TEST_F(TheHostsViewers, TellOfARowThatNamesNoDocument)
+{
+    EXPECT_EQ(Document("", ""), "! 该行没有指明单据。\n");
+    EXPECT_EQ(Document("10", "", "en-US"), "! The row names no document.\n");
 }
 
 TEST_F(TheHostsViewers, ShowErrorsThatAReportWouldPassOver)
@@ -251,7 +258,7 @@ TEST_F(TheHostsViewers, AreNotAskedWhereARowHasNoVoucher)
 
 TEST_F(TheHostsViewers, FindNoDocumentBehindTheStandardCostJournalWhoseRowsLackItsIdentity)
 {
-    EXPECT_EQ(Open(1, "Vouch"), "! 账套中没有单据  \n");
+    EXPECT_EQ(Open(1, "Vouch"), "! 该行没有指明单据。\n");
 }
 
 }  // namespace

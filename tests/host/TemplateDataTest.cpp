@@ -235,7 +235,7 @@ TEST(TemplateData, TakesValuesInTheFormInWhichTheReportReadsThem)
         {"goods-cost-ledger", "IA_EnSubsidiary.iMonth", "month from to"},
         {"goods-cost-ledger", "IA_EnSubsidiary.cInvCode", "reference, mandatory"},
         {"price-analysis", "iMonth", "period, mandatory"},
-        {"price-analysis", "avgPrice", "period from and to"},
+        {"price-analysis", "avgPrice", "period from and to, mandatory"},
         {"price-analysis", "avgPrices", "list, mandatory, 1"},
         {"price-analysis", "Base Price", "list, mandatory, 3"},
         {"price-analysis", "cVouType", "reference by tab"},

@@ -153,10 +153,12 @@ TEST(CheckedValue, GivesFlagsInTheWordsOfTheReports)
               "cTest: \"maybe\" is not what it takes, which is 是 or 否, also yes or no.");
 }
 
-TEST(CheckedValue, LeavesTextsAndCodesAsTheyAre)
+TEST(CheckedValue, LeavesTextsAsTheyAreAndTakesBlanksAroundCodesAway)
 {
     EXPECT_EQ(CheckedValue(Field(FieldKind::Text), " a ", ValuePolicy::Checked), " a ");
     EXPECT_EQ(CheckedValue(Field(FieldKind::Reference), "0a", ValuePolicy::Checked), "0a");
+    EXPECT_EQ(CheckedValue(Field(FieldKind::Reference), " 0a  b ", ValuePolicy::Checked), "0a  b");
+    EXPECT_EQ(CheckedValue(Field(FieldKind::Reference), " ", ValuePolicy::Checked), "");
 }
 
 TEST(CheckedValue, TakesAnEmptyValueForEveryKind)

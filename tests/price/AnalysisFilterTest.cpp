@@ -112,6 +112,7 @@ TEST(ReadAnalysisFilter, ComparesEachKindOfField)
         {{"cFree1", "", "y"}, " And cFree1= N''", false},
         {{"cinvcode", "A\tB", "", false, kSeveral}, " And cinvcode= N'A\tB'", false},
         {{"other", "O'Neil"}, " And other= N'O'Neil'", false},
+        {{"Ia_Ensubsidiary.cDepCode", "03"}, " And Ia_Ensubsidiary.cDepCode= N'03'", false},
         {{"other", Value::Null(), Value::Null(), kRange}, "", false},
     };
     for (const auto& c : cases) {

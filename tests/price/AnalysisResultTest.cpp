@@ -240,6 +240,7 @@ TEST_F(TheAnalysisOfAQuarter, FailsForWhatItsStatementsCannotSay)
         {"no base price", {"Base Price", ""}},
         {"no fourth average", {"avgPrices", "4"}},
         {"the view has no table inventory", {"cinvdefine1", "x"}},
+        {"the view has no other ledger", {"Ia_Ensubsidiary.cDepCode", "D1"}},
     };
     for (const auto& c : cases) {
         EXPECT_FALSE(objAccount.Analyse({c.field})) << c.why;
@@ -252,6 +253,29 @@ TEST_F(TheAnalysisOfAQuarter, IsEmptyWhereTheConditionTextIsNoDocument)
 {
     Analyse({{"ShowType", "1<"}});
     EXPECT_EQ(Rows("cVouCode"), "");
+}
+
+// ---- an account that begins in the middle of a year
+
+TEST_F(TheAnalysis, OfAnAccountSinceJulyStartsFromItsOpening)
+{
+    objAccount.Run("update AccInformation set cValue = '2008-07-01' where cName = 'dIAStartDate'");
+    objAccount.Add(LedgerLine{.code = "J", .month = 7, .inCost = "6", .date = "'2008-07-10'"});
+    objAccount.Add(LedgerLine{.code = "A", .month = 8, .inCost = "7", .date = "'2008-08-10'"});
+    objAccount.Add(SummaryRow{.month = 0, .left = "10, 50"});
+    objAccount.Add(SummaryRow{.month = 7, .in = "10, 60", .left = "20, 110"});
+    objAccount.Add(SummaryRow{.month = 8, .in = "5, 35", .left = "25, 145"});
+    const struct {
+        const char *month, *from, *to, *row;
+    } cases[] = {
+        {"2008.07", "2008.07", "2008.08", "J,6.333333,5.000000\n"},  // (60 + 35) / 15, the opening
+        {"2008.08", "2008.08", "2008.08", "A,7.000000,5.500000\n"},  // 35 / 5, July's 110 / 20
+        {"2008.08", "2008.01", "2008.06", "A,0.000000,5.500000\n"},  // there were no such months
+    };
+    for (const auto& c : cases) {
+        Analyse({{"iMonth", c.month}, {"avgPrice", c.from, c.to, true}});
+        EXPECT_EQ(Rows("cVouCode, AvgPrice, Balanceunit"), c.row) << c.from;
+    }
 }
 
 // ---- which lines are shown

@@ -66,7 +66,7 @@ class DialogsOf : public testing::TestWithParam<std::string> {
     {
         strReport = report;
         objDialog.reset();
-        objDialog = std::make_unique<Dialog>(*objSession, host::FindFilterOf(report));
+        objDialog = std::make_unique<Dialog>(*objSession, host::FindReport(report));
         FilterInput input(host::TemplateOf(report), host::ValuePolicy::Checked);
         for (const std::string& setting : settings)
             input.Set(setting);
@@ -130,7 +130,7 @@ TEST_P(DialogsOf, OpenWithTheirDefaultsAndLocksInBothLanguages)
         {"abc", "iyear=2008 iperiod=12月 inclua=是 inclub=是 incluc=是 " + abcLocks},
         {"capital-share", ""},
         {"area-table", ""},
-        {"goods-template", ""},
+        {"goods-template", "Ia_Ensubsidiary.cBustype=全部 "},
     };
     for (const char* language : {"zh-CN", "en-US"}) {
         Enter(language);
@@ -390,33 +390,48 @@ class RestrictedDialogs : public DialogsOf {
 
 TEST_P(RestrictedDialogs, OfferARestrictedUserHisWarehousesAndDepartmentsOnly)
 {
-    Enter("zh-CN", "anna");
-    const std::string warehouses = Rights("Warehouse", "Warehouse", "cWhCode");
-    ASSERT_NE(warehouses, "");
-    ASSERT_NE(warehouses, Query("select cWhCode from Warehouse where bInCost = 1 order by cWhCode"));
-    const std::string departments = Rights("Department", "Department", "cDepCode");
-    ASSERT_NE(departments, "");
-    // Of a dialog whose lookup the callbacks fill, those that have a warehouse for costing.
-    const std::string ofWarehouses = Query(
-        "select cDepCode from Department where cDepCode in (select cCode from Demo_UserRight where cUser ="
-        " N'anna' and cKind = N'Department') and cDepCode in (select cDepCode from Warehouse where bInCost = 1)"
-        " order by cDepCode");
+    for (const char* language : {"zh-CN", "en-US"}) {
+        Enter(language, "anna");
+        const std::string warehouses = Rights("Warehouse", "Warehouse", "cWhCode");
+        ASSERT_NE(warehouses, "");
+        ASSERT_NE(warehouses, Query("select cWhCode from Warehouse where bInCost = 1 order by cWhCode"));
+        const std::string departments = Rights("Department", "Department", "cDepCode");
+        ASSERT_NE(departments, "");
+        // Of a dialog whose lookup the callbacks fill, those that have a warehouse for costing.
+        const std::string ofWarehouses = Query(
+            "select cDepCode from Department where cDepCode in (select cCode from Demo_UserRight where cUser ="
+            " N'anna' and cKind = N'Department') and cDepCode in (select cDepCode from Warehouse where bInCost"
+            " = 1) order by cDepCode");
 
-    const struct {
-        const char *report, *warehouse, *department;
-        const std::string& wanted;
-    } fields[] = {{"journal", "cWhCode", "cDepCode", ofWarehouses},
-                  {"turnover", "cwhcode", "cdepcode", ofWarehouses},
-                  {"abc", "cwhcode", "cdepcode", ofWarehouses},
-                  {"estimate-balance", "ia_subsidiary.cWhCode", "ia_subsidiary.cDepCode", ofWarehouses},
-                  {"stock-summary", "cwhcode", "cDepCode", departments},
-                  {"goods-summary", "Ia_Ensubsidiary.cWhCode", "Ia_Ensubsidiary.cDepCode", departments},
-                  {"goods-cost-summary", "Ia_Ensubsidiary.cWhCode", "Ia_Ensubsidiary.cAccDep", departments},
-                  {"price-analysis", "cWhCode", "cAccDep", departments}};
-    for (const auto& field : fields) {
-        Open(field.report);
-        EXPECT_EQ(Offered(field.warehouse, 1), warehouses) << field.report;
-        EXPECT_EQ(Offered(field.department, 1), field.wanted) << field.report;
+        const struct {
+            const char *report, *key;
+            const std::string& wanted;
+        } fields[] = {{"journal", "cWhCode", warehouses},
+                      {"journal", "cDepCode", ofWarehouses},
+                      {"standard-cost-journal", "cWhCode", warehouses},
+                      {"standard-cost-journal", "cDepCode", ofWarehouses},
+                      {"stock-summary", "cwhcode", warehouses},
+                      {"stock-summary", "cDepCode", departments},
+                      {"estimate-balance", "ia_subsidiary.cWhCode", warehouses},
+                      {"estimate-balance", "ia_subsidiary.cDepCode", ofWarehouses},
+                      {"goods-summary", "Ia_Ensubsidiary.cWhCode", warehouses},
+                      {"goods-summary", "Ia_Ensubsidiary.cDepCode", departments},
+                      {"goods-cost-summary", "Ia_Ensubsidiary.cWhCode", warehouses},
+                      {"goods-cost-summary", "Ia_Ensubsidiary.cAccDep", departments},
+                      {"goods-cost-ledger", "Ia_Ensubsidiary.cWhCode", warehouses},
+                      {"goods-cost-ledger", "Ia_Ensubsidiary.cAccDep", departments},
+                      {"price-analysis", "cWhCode", warehouses},
+                      {"price-analysis", "cDepCode", ofWarehouses},
+                      {"price-analysis", "cAccDep", departments},
+                      {"turnover", "cwhcode", warehouses},
+                      {"turnover", "cdepcode", ofWarehouses},
+                      {"abc", "cwhcode", warehouses},
+                      {"abc", "cdepcode", ofWarehouses},
+                      {"capital-share", "cwhcode", warehouses}};
+        for (const auto& field : fields) {
+            Open(field.report);
+            EXPECT_EQ(Offered(field.key, 1), field.wanted) << field.report << " " << field.key;
+        }
     }
 }
 
@@ -434,12 +449,12 @@ TEST(DialogOfTheJournal, CantOpenWithoutAMonthThatIsOpen)
         "insert into AccInformation (cSysID, cName, cValue) values (N'IA', N'dIAStartDate', N'2008-01-01')");
     Session session(LoginTo(account.Path(), "zh-CN"), LoggedConnections());
     try {
-        Dialog dialog(session, host::FindFilterOf("journal"));
+        Dialog dialog(session, host::FindReport("journal"));
         FAIL();
     } catch (const Error& e) {
         EXPECT_STREQ(e.what(), "The account has no month that is open for inventory accounting.");
     }
-    EXPECT_NO_THROW(Dialog(session, host::FindFilterOf("capital-share")));
+    EXPECT_NO_THROW(Dialog(session, host::FindReport("capital-share")));
 }
 
 // From the month of the start date on, the day of which doesn't count.
@@ -456,12 +471,12 @@ TEST(DialogOfTheJournal, OffersTheMonthsThatAreOpen)
         " (N'IA', N'bWarehouseCheck', N'False'), (N'IA', N'cOther', N'no date')");
     Session session(LoginTo(account.Path(), "zh-CN"), LoggedConnections());
     {
-        Dialog dialog(session, host::FindFilterOf("journal"));
+        Dialog dialog(session, host::FindReport("journal"));
         EXPECT_EQ(Values(*dialog.Filter()->Find("iMonth")), "2008.07,2009.01");
     }
     account.Run(
         "insert into AccInformation (cSysID, cName, cValue) values (N'AA', N'ArchiveDate', N'2008-06-30')");
-    Dialog dialog(session, host::FindFilterOf("journal"));
+    Dialog dialog(session, host::FindReport("journal"));
     EXPECT_EQ(Values(*dialog.Filter()->Find("iMonth")), "2009.01");
 }
 

@@ -302,7 +302,7 @@ std::vector<std::string> ReportsWithADialog()
 {
     std::vector<std::string> names;
     for (const host::Report& report : host::AllReports())
-        if (!report.filterId.empty() && host::IsBuilt(report))
+        if (!report.filterId.empty())
             names.emplace_back(report.name);
     return names;
 }

@@ -22,7 +22,7 @@ constexpr std::string_view kCurve = "#c0392b";
 void DrawHead(Svg& svg, const ChartTexts& texts)
 {
     svg.Text(kMargin, 34, texts.title, {.size = 20, .bold = true});
-    svg.Text(kMargin, 58, texts.subtitle, {.colour = kFaint});
+    svg.Text(kMargin, 58, CutToWidth(texts.subtitle, kSubtitleCells), {.colour = kFaint});
 }
 
 // The step between lines of the grid: 1, 2 or 5 times a power of ten, for about six lines.
@@ -39,6 +39,21 @@ double GridStep(double range)
 std::string Percent(double share)
 {
     return fmt::format("{:g}%", std::round(share * 1000) / 10);
+}
+
+// How the names of upright bars stand below them.
+enum class BarNames { None, Across, Turned };
+
+BarNames NamesBelow(const std::vector<ChartBar>& bars, double slot)
+{
+    constexpr std::size_t kMost = 24;
+    constexpr double kCell = 6.5;
+    if (bars.size() > kMost)
+        return BarNames::None;
+    for (const ChartBar& bar : bars)
+        if (DisplayWidth(bar.label) * kCell > slot)
+            return BarNames::Turned;
+    return BarNames::Across;
 }
 
 }  // namespace
@@ -69,7 +84,7 @@ std::string BarChart(const ChartTexts& texts, const std::vector<ChartBar>& bars)
     const double step = GridStep(high - low);
     for (double line = std::ceil(low / step) * step; line <= high + step / 1000; line += step) {
         svg.Line(at(line), kHead - 6, at(line), bottom, kGrid);
-        svg.Text(at(line), bottom + 18, fmt::format("{:g}", std::round(line / step) * step),
+        svg.Text(at(line), bottom + 18, fmt::format("{:.12g}", std::round(line / step) * step),
                  {.size = 11, .colour = kFaint, .anchor = TextAnchor::Middle});
     }
     svg.Text(right, bottom + 36, texts.value, {.size = 11, .colour = kFaint, .anchor = TextAnchor::End});
@@ -94,13 +109,15 @@ std::string BarChart(const ChartTexts& texts, const std::vector<ChartBar>& bars)
 std::string ParetoChart(const ChartTexts& texts, const std::vector<ChartBar>& shares,
                         const std::vector<ChartLimit>& limits, const std::vector<LegendEntry>& legend)
 {
-    constexpr int kHeight = 560;
     constexpr double kLeft = 76;
     constexpr double kRight = kWidth - 130;
     constexpr double kTop = kHead + 8;
-    constexpr double kBottom = kHeight - 96;
-    constexpr std::size_t kMostLabels = 24;
-    Svg svg(kWidth, kHeight, texts.title);
+    constexpr double kBottom = 464;
+    constexpr int kTurnedCells = 18;
+    const double slot = (kRight - kLeft) / static_cast<double>(std::max<std::size_t>(shares.size(), 1));
+    const BarNames names = NamesBelow(shares, slot);
+    const int height = names == BarNames::Turned ? 628 : 560;
+    Svg svg(kWidth, height, texts.title);
     DrawHead(svg, texts);
     const auto at = [&](double share) { return kBottom - share * (kBottom - kTop); };
 
@@ -111,34 +128,41 @@ std::string ParetoChart(const ChartTexts& texts, const std::vector<ChartBar>& sh
     }
     svg.Text(kLeft - 8, kTop - 14, texts.value, {.size = 11, .colour = kFaint});
 
-    const double slot = (kRight - kLeft) / static_cast<double>(std::max<std::size_t>(shares.size(), 1));
     const double gap = slot > 6 ? 2 : 0;
     std::vector<std::pair<double, double>> curve = {{kLeft, kBottom}};
     double sum = 0;
     double x = kLeft;
     for (const ChartBar& share : shares) {
-        const double height = std::max(0.0, share.value) * (kBottom - kTop);
-        svg.Rectangle(x, kBottom - height, std::max(slot - gap, 0.5), height, share.colour,
+        const double length = std::max(0.0, share.value) * (kBottom - kTop);
+        svg.Rectangle(x, kBottom - length, std::max(slot - gap, 0.5), length, share.colour,
                       share.label + ": " + share.shown);
-        if (shares.size() <= kMostLabels)
-            svg.Text(x + slot / 2, kBottom + 16, CutToWidth(share.label, static_cast<int>(slot / 6.5)),
+        if (names == BarNames::Across)
+            svg.Text(x + slot / 2, kBottom + 16, share.label,
                      {.size = 10, .colour = kFaint, .anchor = TextAnchor::Middle});
+        else if (names == BarNames::Turned)
+            svg.Text(x + slot / 2 + 4, kBottom + 14, CutToWidth(share.label, kTurnedCells),
+                     {.size = 10, .colour = kFaint, .anchor = TextAnchor::End, .turn = -40});
         sum += std::max(0.0, share.value);
         x += slot;
         curve.emplace_back(x, at(std::min(sum, 1.0)));
     }
+    double below = 0;  // the label before
     for (const ChartLimit& limit : limits) {
+        if (limit.value < 0 || limit.value > 1)
+            continue;
+        const double label = std::max(at(limit.value) + 4, below);
         svg.Line(kLeft, at(limit.value), kRight, at(limit.value), kFaint, true);
-        svg.Text(kRight + 6, at(limit.value) + 4, limit.label, {.size = 12});
+        svg.Text(kRight + 6, label, limit.label, {.size = 12});
+        below = label + 15;
     }
     svg.Curve(curve, kCurve);
-    svg.Text(kRight, kBottom + 34, texts.items, {.size = 11, .colour = kFaint, .anchor = TextAnchor::End});
+    svg.Text(kRight, height - 62, texts.items, {.size = 11, .colour = kFaint, .anchor = TextAnchor::End});
     svg.Line(kLeft, kBottom, kRight, kBottom, kFaint);
 
     double left = kLeft;
     for (const LegendEntry& entry : legend) {
-        svg.Rectangle(left, kHeight - 44, 14, 14, entry.colour);
-        svg.Text(left + 20, kHeight - 32, entry.text, {.size = 12});
+        svg.Rectangle(left, height - 44, 14, 14, entry.colour);
+        svg.Text(left + 20, height - 32, entry.text, {.size = 12});
         left += 44 + 7.0 * DisplayWidth(entry.text);
     }
     return svg.Document();

@@ -14,6 +14,9 @@ struct ChartBar {
     std::string_view colour = "#2b6ca3";
 };
 
+// Columns of text, as on a terminal, for which a subtitle has room; what is longer is cut.
+constexpr int kSubtitleCells = 126;
+
 struct ChartTexts {
     std::string title;
     std::string subtitle;
@@ -35,7 +38,8 @@ struct LegendEntry {
     std::string_view colour;
 };
 
-// Shares of a whole, between 0 and 1, as upright bars in the order given, and the curve of their sum.
+// Shares of a whole, between 0 and 1, as upright bars in the order given, and the curve of their sum. The
+// limits come from the highest down; one that no share can lie on is left out.
 std::string ParetoChart(const ChartTexts& texts, const std::vector<ChartBar>& shares,
                         const std::vector<ChartLimit>& limits, const std::vector<LegendEntry>& legend);
 

@@ -4,6 +4,7 @@
 #include "frame/Text.h"
 #include "host/LocalText.h"
 #include "host/chart/Charts.h"
+#include "host/output/DisplayWidth.h"
 
 #include <fmt/format.h>
 
@@ -35,6 +36,7 @@ struct BarDefinition {
     ChartOrder order;
     LocalText title;
     LocalText measure;
+    std::string_view compared = {};  // without it there is nothing to draw of a row
 };
 
 const std::vector<BarDefinition>& BarDefinitions()
@@ -49,18 +51,19 @@ const std::vector<BarDefinition>& BarDefinitions()
          {"所占比重（%）", "Share of the total (%)"}},
         {"turnover",
          "分析_周转率",
-         {"部门_名称", "仓库_名称", "存货_编码|存货_分类", "存货_名称"},
+         {"部门_名称|部门_编码", "仓库_名称|仓库_编码", "存货_编码|存货_分类", "存货_名称"},
          "",
          ChartOrder::Largest,
          {"存货周转率", "Inventory turnover"},
          {"周转率（次）", "Turnover rate (times)"}},
         {"price-analysis",
          "DiffRatio",
-         {"cInvCode", "cInvName", "cVouCode"},
+         {"cInvCode", "cInvName", "cVouCode|cBatchia"},
          "%",
          ChartOrder::FurthestFromZero,
          {"存货价格差异", "Deviation of prices from the base price"},
-         {"差异率（%）", "Deviation (%)"}},
+         {"差异率（%）", "Deviation (%)"},
+         "Price"},
     };
     return definitions;
 }
@@ -99,13 +102,14 @@ std::string LabelIn(const Recordset& rows, const std::vector<std::string_view>& 
     for (const std::string_view column : columns)
         if (const std::string text = FirstText(rows, column); !text.empty())
             label += (label.empty() ? "" : " ") + text;
-    return label;
+    return label.empty() ? "—" : label;
 }
 
-// The rows that are drawn, and how many there were.
+// The rows that are drawn, and how many there were of those that can be and of those that can't.
 struct Drawn {
     std::vector<ChartBar> bars;
     std::size_t count = 0;
+    std::size_t withoutPrice = 0;
 };
 
 // Keeps no more rows than are drawn, whatever their number.
@@ -117,6 +121,10 @@ Drawn ReadBars(const BarDefinition& definition, Recordset& rows)
     };
     Drawn drawn;
     for (; !rows.Eof(); rows.MoveNext()) {
+        if (!definition.compared.empty() && NumberIn(rows, definition.compared) == 0) {
+            ++drawn.withoutPrice;
+            continue;
+        }
         ++drawn.count;
         ChartBar bar;
         bar.value = NumberIn(rows, definition.value);
@@ -134,13 +142,24 @@ Drawn ReadBars(const BarDefinition& definition, Recordset& rows)
     return drawn;
 }
 
-std::string Subtitle(const ChartContext& context, std::size_t drawn, std::size_t count)
+std::string Subtitle(const ChartContext& context, const Drawn& drawn)
 {
-    if (drawn == count)
-        return context.subtitle;
-    const LocalText part = {fmt::format("{} 行中的前 {} 行", count, drawn),
-                            fmt::format("{} of {} rows", drawn, count)};
-    return context.subtitle + (context.subtitle.empty() ? "" : "  ·  ") + part.In(context.language);
+    constexpr std::string_view kBetween = "  ·  ";
+    std::string counts;
+    const auto add = [&](const LocalText& part) {
+        counts += std::string(kBetween) + part.In(context.language);
+    };
+    if (drawn.count == 0)
+        add({"没有可画的行", "no rows to draw"});
+    else if (const std::size_t shown = drawn.bars.size(); shown != drawn.count)
+        add({fmt::format("{} 行中的前 {} 行", drawn.count, shown),
+             fmt::format("{} of {} rows", shown, drawn.count)});
+    if (drawn.withoutPrice != 0)
+        add({fmt::format("{} 行没有单价", drawn.withoutPrice),
+             fmt::format("{} without a price", drawn.withoutPrice)});
+    if (context.subtitle.empty() && !counts.empty())
+        return counts.substr(kBetween.size());
+    return CutToWidth(context.subtitle, kSubtitleCells - DisplayWidth(counts)) + counts;
 }
 
 std::string_view ClassColour(std::string_view abcClass)
@@ -185,8 +204,8 @@ std::string DrawAbc(Recordset& rows, const ChartContext& context)
 // A share that the user set in per cent; `byDefault` where he set none.
 double LimitIn(SettingsStore& settings, const std::string& key, double byDefault)
 {
-    const double percent = LeadingNumber(settings.Read("存货核算", "ABCOption872", key, ""));
-    return percent == 0 ? byDefault : percent / 100;
+    const std::string percent = settings.Read("存货核算", "ABCOption872", key, "");
+    return percent.empty() ? byDefault : LeadingNumber(percent) / 100;
 }
 
 }  // namespace
@@ -210,10 +229,9 @@ std::string DrawChart(const Report& report, Recordset& rows, const ChartContext&
     if (!definition)
         throw Error("There is no picture of " + std::string(report.name) + ".");
     const Drawn drawn = ReadBars(*definition, rows);
-    return BarChart(
-        {definition->title.In(context.language), Subtitle(context, drawn.bars.size(), drawn.count),
-         definition->measure.In(context.language)},
-        drawn.bars);
+    return BarChart({definition->title.In(context.language), Subtitle(context, drawn),
+                     definition->measure.In(context.language)},
+                    drawn.bars);
 }
 
 }  // namespace kavelin::host

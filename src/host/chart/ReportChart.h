@@ -24,8 +24,9 @@ struct ChartContext {
     void TakeLimits(SettingsStore& settings);
 };
 
-// The rows of the report's result as an SVG document. The largest values are drawn and the rest is told in
-// the subtitle. Throws Error for a report without a picture, and where the result lacks a column of it.
+// The rows of the report's result as an SVG document. The largest values are drawn, and the subtitle tells how many
+// rows there are; a row without a price is told there and not drawn. Throws Error for a report without a picture,
+// and where the result lacks a column of it.
 std::string DrawChart(const Report& report, Recordset& rows, const ChartContext& context);
 
 }  // namespace kavelin::host

@@ -66,10 +66,12 @@ void Svg::Curve(const std::vector<std::pair<double, double>>& points, std::strin
 
 void Svg::Text(double x, double y, std::string_view text, const TextStyle& style)
 {
+    const std::string turn =
+        style.turn == 0 ? "" : fmt::format(R"-( transform="rotate({} {:.1f} {:.1f})")-", style.turn, x, y);
     strBody += fmt::format(
-        R"(  <text x="{:.1f}" y="{:.1f}" font-size="{}" fill="{}" text-anchor="{}"{}{}>{}</text>)", x, y,
+        R"(  <text x="{:.1f}" y="{:.1f}" font-size="{}" fill="{}" text-anchor="{}"{}{}{}>{}</text>)", x, y,
         style.size, style.colour, AnchorName(style.anchor), style.bold ? R"( font-weight="bold")" : "",
-        style.halo ? R"( stroke="#ffffff" stroke-width="3" paint-order="stroke")" : "", Escaped(text));
+        style.halo ? R"( stroke="#ffffff" stroke-width="3" paint-order="stroke")" : "", turn, Escaped(text));
     strBody += '\n';
 }
 

@@ -16,6 +16,7 @@ struct TextStyle {
     TextAnchor anchor = TextAnchor::Start;
     bool bold = false;
     bool halo = false;  // white around the letters, so that lines behind them don't disturb
+    int turn = 0;       // degrees around the anchor, clockwise
 };
 
 class Svg {

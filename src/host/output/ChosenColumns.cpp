@@ -45,7 +45,9 @@ int PositionOf(const Recordset& rows, const std::string& name)
     throw UsageError("The result has no column \"" + name + "\"." + DidYouMean(name, views));
 }
 
-bool Fits(const std::string& pattern, const std::string& name)
+}  // namespace
+
+bool FitsColumn(const std::string& pattern, const std::string& name)
 {
     const std::size_t star = pattern.find('*');
     if (star == pattern.npos)
@@ -53,8 +55,6 @@ bool Fits(const std::string& pattern, const std::string& name)
     return name.size() >= pattern.size() - 1 && EqualsNoCase(pattern.substr(0, star), name.substr(0, star)) &&
            EqualsNoCase(pattern.substr(star + 1), name.substr(name.size() - (pattern.size() - star - 1)));
 }
-
-}  // namespace
 
 std::unique_ptr<Recordset> ChooseColumns(Recordset& rows, std::span<const std::string> names)
 {
@@ -69,7 +69,7 @@ std::vector<std::string> FindColumns(const Recordset& rows, std::span<const std:
     std::vector<std::string> found;
     for (const std::string& name : names)
         for (int field = 0; field < rows.FieldCount(); ++field)
-            if (Fits(name, rows.FieldName(field))) {
+            if (FitsColumn(name, rows.FieldName(field))) {
                 found.push_back(rows.FieldName(field));
                 break;
             }

@@ -17,6 +17,10 @@ std::unique_ptr<Recordset> ChooseColumns(Recordset& rows, std::span<const std::s
 // What `rows` have of the names, "R_*_Cost" being the first column that begins and ends so.
 std::vector<std::string> FindColumns(const Recordset& rows, std::span<const std::string> names);
 
+// Whether `name` is one that the pattern means: equal to it, or beginning and ending as it does around a "*"; without
+// regard to case.
+bool FitsColumn(const std::string& pattern, const std::string& name);
+
 // "A, B,C" as names; empty parts are passed over.
 std::vector<std::string> ColumnNames(const std::string& list);
 

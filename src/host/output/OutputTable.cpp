@@ -42,12 +42,29 @@ struct Excerpt {
     std::optional<Row> totals;
 };
 
+// At most six decimals, but all digits of a number so small that they would say 0.
+std::string DoubleCell(double number)
+{
+    constexpr double kSmall = 0.001;
+    constexpr std::size_t kDecimals = 6;
+    std::string text = ToText(Value(number));
+    const std::size_t point = text.find('.');
+    if (point == text.npos || text.size() - point - 1 <= kDecimals || text.find('E') != text.npos ||
+        std::fabs(number) < kSmall)
+        return text;
+    text = fmt::format("{:.{}f}", number, kDecimals);
+    text.erase(text.find_last_not_of('0') + 1);
+    if (text.ends_with('.'))
+        text.pop_back();
+    return text;
+}
+
 std::string CellText(const Value& value)
 {
     if (value.As<std::int64_t>() || value.As<Decimal>())
         return GroupThousands(MachineText(value));
-    if (value.As<double>())
-        return GroupThousands(ToText(value));
+    if (const double* number = value.As<double>())
+        return GroupThousands(DoubleCell(*number));
     return Printable(MachineText(value));
 }
 

@@ -41,12 +41,28 @@ std::string BarOf(const std::string& svg, const std::string& label)
     return attribute("x") + " " + attribute("width");
 }
 
+Value Null()
+{
+    return Value::Null();
+}
+
 FixedRows Shares(std::vector<std::vector<Value>> rows)
 {
     return FixedRows({{"cNo", "int"},
                       {"cinvcode", "nvarchar(60)"},
                       {"cInvName", "nvarchar(255)"},
                       {"所占比重", "decimal(38,2)"}},
+                     std::move(rows));
+}
+
+FixedRows Deviations(std::vector<std::vector<Value>> rows)
+{
+    return FixedRows({{"cInvCode", "nvarchar(60)"},
+                      {"cInvName", "nvarchar(255)"},
+                      {"cVouCode", "nvarchar(60)"},
+                      {"cBatchia", "nvarchar(60)"},
+                      {"Price", "decimal(38,6)"},
+                      {"DiffRatio", "decimal(38,2)"}},
                      std::move(rows));
 }
 
@@ -61,6 +77,14 @@ TEST(ReportChart, IsThereOfTheFourAnalyses)
     EXPECT_EQ(drawn, "price-analysis turnover abc capital-share ");
     FixedRows rows = Shares({});
     EXPECT_THROW(DrawChart(ReportNamed("journal"), rows, {}), Error);
+}
+
+TEST(DrawChart, SaysThatThereAreNoRows)
+{
+    FixedRows rows = Shares({});
+    const std::string svg =
+        DrawChart(ReportNamed("capital-share"), rows, {.language = "en-US", .subtitle = "Demo"});
+    EXPECT_NE(svg.find(">Demo  ·  no rows to draw</text>"), std::string::npos) << svg;
 }
 
 TEST(ReportChart, DrawsABarOfTheLengthOfItsValue)
@@ -102,33 +126,51 @@ TEST(ReportChart, DrawsTheLargestAndTellsHowManyThereAre)
 
 TEST(ReportChart, DrawsDeviationsToBothSidesOfZero)
 {
-    FixedRows rows(
-        {{"cInvCode", "nvarchar(60)"},
-         {"cInvName", "nvarchar(255)"},
-         {"cVouCode", "nvarchar(60)"},
-         {"DiffRatio", "decimal(38,2)"}},
-        {{"A", "", "R1", Dec("50.00")}, {"B", "", "R2", Dec("-100.00")}, {"C", "", "R3", Dec("0.00")}});
+    FixedRows rows = Deviations({{"A", "", "R1", "P", Dec("1.50"), Dec("50.00")},
+                                 {"B", "", "R2", "", Dec("0.00001"), Dec("-100.00")},
+                                 {"C", "", "", "P", Dec("1.00"), Dec("0.00")}});
     const std::string svg =
         DrawChart(ReportNamed("price-analysis"), rows, {.language = "en-US", .subtitle = ""});
     EXPECT_EQ(BarOf(svg, "B R2: -100.00%"), "434.0 261.3");
     EXPECT_EQ(BarOf(svg, "A R1: 50.00%"), "695.3 130.7");
-    EXPECT_EQ(BarOf(svg, "C R3: 0.00%"), "695.3 0.5");
+    EXPECT_EQ(BarOf(svg, "C P: 0.00%"), "695.3 0.5") << "a row of the summary has no document";
     EXPECT_LT(svg.find("<title>B R2"), svg.find("<title>A R1"));
+    EXPECT_EQ(svg.find("without a price"), std::string::npos);
+}
+
+// Those of an adjustment, or of a balance without a quantity: all -100 %, and more than a picture holds.
+TEST(ReportChart, TellsRowsWithoutAPriceAndDrawsTheOthers)
+{
+    FixedRows rows = Deviations({{"A", "", "R1", "", Dec("1.50"), Dec("50.00")},
+                                 {"B", "", "R2", "", Null(), Dec("-100.00")},
+                                 {"C", "", "", "", Dec("0.000000"), Dec("-100.00")}});
+    const std::string svg =
+        DrawChart(ReportNamed("price-analysis"), rows, {.language = "en-US", .subtitle = "Month 2008.07"});
+    EXPECT_NE(BarOf(svg, "A R1: 50.00%"), "no bar");
+    EXPECT_EQ(BarOf(svg, "B R2"), "no bar");
+    EXPECT_EQ(BarOf(svg, "C"), "no bar");
+    EXPECT_NE(svg.find(">Month 2008.07  ·  2 without a price</text>"), std::string::npos) << svg;
 }
 
 TEST(ReportChart, NamesATurnoverByWhatItIsGroupedBy)
 {
-    FixedRows rows({{"部门_名称", "int"},
+    FixedRows rows({{"部门_编码", "nvarchar(20)"},
+                    {"部门_名称", "nvarchar(60)"},
+                    {"仓库_编码", "nvarchar(10)"},
                     {"仓库_名称", "nvarchar(60)"},
                     {"存货_分类", "nvarchar(24)"},
                     {"存货_编码", "nvarchar(60)"},
                     {"存货_名称", "nvarchar(255)"},
                     {"分析_周转率", "decimal(38,6)"}},
-                   {{Value::Null(), "原料库", "01", "A", "钢板", Dec("2.500000")},
-                    {Value::Null(), "成品库", "02", Value::Null(), Value::Null(), Dec("1.000000")}});
+                   {{Null(), Null(), "01", "原料库", "01", "A", "钢板", Dec("2.500000")},
+                    {Null(), Null(), "02", "成品库", "02", Null(), Null(), Dec("1.000000")},
+                    {"0301", Null(), "09", Null(), "03", "B", "铜线", Dec("0.500000")},
+                    {Null(), Null(), Null(), Null(), Null(), Null(), Null(), Dec("0.250000")}});
     const std::string svg = DrawChart(ReportNamed("turnover"), rows, {.language = "zh-CN", .subtitle = ""});
     EXPECT_NE(BarOf(svg, "原料库 A 钢板: 2.50"), "no bar");
     EXPECT_NE(BarOf(svg, "成品库 02: 1.00"), "no bar");
+    EXPECT_NE(BarOf(svg, "0301 09 B 铜线: 0.50"), "no bar") << "codes without a name";
+    EXPECT_NE(BarOf(svg, "—: 0.25"), "no bar") << "nothing is grouped";
 }
 
 TEST(ReportChart, TakesTheLimitsThatTheUserSet)
@@ -139,15 +181,19 @@ TEST(ReportChart, TakesTheLimitsThatTheUserSet)
                          const std::string& byDefault) override
         {
             EXPECT_EQ(application + ", " + section, "存货核算, ABCOption872");
-            return key == "M2" ? "62.5" : byDefault;
+            return key == "M2" ? strA : byDefault;
         }
         void Write(const std::string&, const std::string&, const std::string&, const std::string&) override {}
+        std::string strA = "62.5";
     };
     ChartContext context;
     Settings settings;
     context.TakeLimits(settings);
     EXPECT_EQ(context.limitA, 0.625);
     EXPECT_EQ(context.limitB, 0.1);
+    settings.strA = "0";
+    context.TakeLimits(settings);
+    EXPECT_EQ(context.limitA, 0) << "is a limit too";
 }
 
 TEST(ReportChart, DrawsSharesOfMoneyWithTheLimitsOfTheClasses)
@@ -172,6 +218,57 @@ TEST(ParetoChart, AddsUpItsSharesInACurve)
     const std::string svg =
         ParetoChart({"t", "", ""}, {{"a", 0.7, ""}, {"b", 0.2, ""}, {"c", 0.1, ""}}, {}, {});
     EXPECT_NE(svg.find("points=\"76.0,464.0 327.3,203.6 578.7,129.2 830.0,92.0\""), std::string::npos) << svg;
+}
+
+// The labels of 4 % and 1.5 % would lie on each other: the lower one stands 15 pixels further down.
+TEST(ParetoChart, KeepsTheLabelsOfItsLimitsApart)
+{
+    const std::string svg = ParetoChart({"t", "", ""}, {}, {{0.04, "A"}, {0.015, "B"}}, {});
+    EXPECT_NE(svg.find("y=\"453.1\" font-size=\"12\" fill=\"#333333\" text-anchor=\"start\">A<"), svg.npos)
+        << svg;
+    EXPECT_NE(svg.find("y=\"468.1\" font-size=\"12\" fill=\"#333333\" text-anchor=\"start\">B<"), svg.npos)
+        << svg;
+}
+
+TEST(ParetoChart, LeavesOutALimitThatNoShareCanLieOn)
+{
+    const std::string svg = ParetoChart({"t", "", ""}, {}, {{1, "top"}, {0, "bottom"}, {-0.05, "below"}}, {});
+    EXPECT_EQ(Count(svg, "stroke-dasharray"), 2u);
+    EXPECT_EQ(svg.find(">below<"), svg.npos);
+}
+
+// Twelve bars have 62 pixels each; a code that is cut there could be that of its neighbour.
+TEST(ParetoChart, TurnsNamesThatDoNotFitBelowTheirBars)
+{
+    std::vector<ChartBar> shares(12, {"STL-02-001", 0.05, ""});
+    std::string svg = ParetoChart({"t", "", ""}, shares, {}, {});
+    EXPECT_EQ(Count(svg, " transform=\"rotate(-40 "), 12u);
+    EXPECT_EQ(Count(svg, ">STL-02-001</text>"), 12u);
+    shares.resize(11);
+    svg = ParetoChart({"t", "", ""}, shares, {}, {});
+    EXPECT_EQ(Count(svg, "rotate("), 0u);
+    EXPECT_EQ(Count(svg, ">STL-02-001</text>"), 11u);
+}
+
+TEST(ParetoChart, NamesNoMoreBarsThanCanBeRead)
+{
+    const std::string svg = ParetoChart({"t", "", ""}, std::vector<ChartBar>(25, {"A", 0.04, ""}), {}, {});
+    EXPECT_EQ(svg.find(">A</text>"), svg.npos);
+}
+
+TEST(BarChart, KeepsALongSubtitleAndTheCountBehindItInThePicture)
+{
+    std::vector<std::vector<Value>> items;
+    for (int i = 1; i <= 30; ++i)
+        items.push_back({i, "A", "B", Value(i)});
+    FixedRows rows = Shares(items);
+    std::string subject;
+    for (int i = 0; i < 60; ++i)
+        subject += "仓库 ";
+    const std::string svg =
+        DrawChart(ReportNamed("capital-share"), rows, {.language = "en-US", .subtitle = subject});
+    EXPECT_EQ(svg.find(subject), svg.npos);
+    EXPECT_NE(svg.find("…  ·  25 of 30 rows</text>"), svg.npos) << svg;
 }
 
 TEST(BarChart, OfNothingIsAnEmptyPicture)

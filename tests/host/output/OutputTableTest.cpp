@@ -60,6 +60,28 @@ TEST(OutputTable, AlignsNumbersRightAndWideTextByItsColumns)
               "3 rows.\n");
 }
 
+TEST(OutputTable, ShowsSixDecimalsOfAFloatUnlessTheyWouldSayNothing)
+{
+    const struct {
+        double number;
+        const char* shown;
+    } cases[] = {
+        {3262.49666666667, "3,262.496667"},
+        {-1.23456789, "-1.234568"},
+        {0.00000123456789, "1.23456789E-06"},
+        {0.000987654321, "0.000987654321"},
+        {2.9999999996, "3"},
+        {99999999999.25, "99,999,999,999.25"},
+        {0.5, "0.5"},
+        {0, "0"},
+    };
+    for (const auto& c : cases) {
+        FixedRows rows({{"n", "float"}}, {{Value(c.number)}});
+        const std::string table = Table(rows);
+        EXPECT_NE(table.find(std::string(c.shown) + "\n"), std::string::npos) << c.shown << "\n" << table;
+    }
+}
+
 TEST(OutputTable, SaysWhenThereAreNoRows)
 {
     FixedRows rows({{"a", "int"}, {"b", "nvarchar(9)"}}, {});

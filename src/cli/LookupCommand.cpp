@@ -47,9 +47,12 @@ void Look(const CLI::App& command, const LookupFlags& flags)
     dialog.Set(input);
     host::OfferedRows offered = dialog.Offer(flags.key, flags.text, page, size);
     work.EndProgress();
+    const bool none = offered.rows.empty();
     TextRows rows(std::move(offered.captions), std::move(offered.rows));
     target.WriteWhole(rows);
     target.Finish();
+    if (none)
+        Say("Nothing found.");
     if (offered.more)
         Say(fmt::format("There are more: --page {}", page + 1));
 }

@@ -72,6 +72,16 @@ TEST_F(LookupTest, FindsEachCharacterAsItStands)
     EXPECT_EQ(found(" 913 "), "913 ");
 }
 
+TEST_F(LookupTest, SaysWhenNothingIsFound)
+{
+    const Outcome none =
+        objProgram.Run({"lookup", "journal", "cWhCode", "no such", "--account", DemoAccount()});
+    EXPECT_EQ(none.exitCode, 0);
+    EXPECT_EQ(none.err, "Nothing found.\n");
+    const Outcome some = objProgram.Run({"lookup", "journal", "cWhCode", "--account", DemoAccount()});
+    EXPECT_EQ(some.err.find("Nothing found."), std::string::npos);
+}
+
 // Batches of several items are rows of equal codes.
 TEST_F(LookupTest, GivesEveryRowOnceOverItsPages)
 {
